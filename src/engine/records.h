@@ -1,0 +1,216 @@
+#pragma once
+
+// Vantorel in five lines:
+//  - records: MainSelection, VesselSettings, VesselSkills hold the controls of
+//    the windows as fields; CalculatorState holds what the engine works out;
+//  - fields: assigning a field runs its handler at once (engine/fields.h);
+//  - handlers: plain functions over the records (engine/calculator.h), nested;
+//  - views: Qt widgets bound one-to-one to fields, no state of their own.
+
+#include "engine/fields.h"
+
+#include <cstdint>
+#include <random>
+#include <string>
+
+namespace vantorel {
+
+using Vessel = std::int16_t; // 1 Alpha, 2 Omega
+
+enum class WindowState { Normal, Minimised, Maximised };
+
+// A top-level window as the program sees it: shown or hidden, its state, and
+// its outer and inner (client) size in twips.
+class Window : public Control {
+  public:
+    Window() { setVisible(false); }
+    explicit Window(std::string title, bool shown = false) : m_title(std::move(title)) { setVisible(shown); }
+    const std::string& title() const { return m_title; }
+    WindowState state() const { return m_state; }
+    void setState(WindowState s) { if (m_state != s) { m_state = s; changed(); } }
+    int innerWidth() const { return m_innerWidth; }
+    int innerHeight() const { return m_innerHeight; }
+    void setInnerSize(int w, int h) {
+        if (w == m_innerWidth && h == m_innerHeight) return;
+        m_innerWidth = w;
+        m_innerHeight = h;
+        changed();
+    }
+
+  private:
+    std::string m_title;
+    WindowState m_state = WindowState::Normal;
+    int m_innerWidth = 0;
+    int m_innerHeight = 0;
+};
+
+// The selections of the main window `Form1`, both vessels. Alpha's ports have
+// no prefix, Omega's a "C"; lists by vessel carry the vessel as index.
+struct MainSelection {
+    MainSelection();
+
+    Window Form1{"Vantorel 4.0", false};
+    Control Contents; // the page all controls stand on; left/top move it
+
+    Indexed<List, 1, 4> Forward, Rear, CForward, CRear;
+    PerVessel<List> ShipClass, ShipTier, ShipSubclass, PowerLevel, TargetDistance, ShuttleRank;
+    PerVessel<Flag> ShuttleMod;
+    Flag Simplified;
+
+    PerVessel<Label> ShipClasslabel, ShipTierlabel, ShipSubclassLabel, PowerLevellabel, TargetDistancelabel,
+        ShuttleRankLabel;
+    Label ForwardWeaponlabel, CForwardWeaponlabel, RearWeaponlabel, CRearWeaponlabel;
+    Button Reset, CReset;
+    PerVessel<Button> Skills, Advanced;
+    Button GraphResults, Help, ShowAbout, Compare, HideCompare;
+    Label Primarylabel, Secondarylabel, Note, FiringArcsLabel;
+
+    Indexed<Label, 0, 13> FiringArcLabel, FiringArcDPS, CFiringArcLabel, CFiringArcDPS;
+    Indexed<Picture, 0, 11> FiringArc, CFiringArc;
+    Picture AlphaImage, OmegaImage;
+    Line Cline{7020, 3675, 7020, 7890};
+    PerVessel<std::string> ShipImageId;
+
+    ScrollBar HScroll1, VScroll1;
+};
+
+// The advanced settings of one vessel: window `Alpha` (vessel 1) or `Omega`.
+struct VesselSettings {
+    // Start values of window `Alpha` (v = 1) or `Omega` (v = 2).
+    void SetUp(Vessel v);
+
+    Vessel vessel = 1;
+    Window Form;
+
+    Button Close;
+    Indexed<Button, 0, 4> Help;
+    Indexed<Button, 1, 4> CopySettings;
+
+    // Character section.
+    Label CharacterSettingsLabel;
+    Flag CharacterSettings{1}; // Alpha only
+    Flag SameAsAlpha{1};       // Omega only
+    Label FactionLabel, RankLabel, ClassLabel;
+    List Faction, Rank, Class;
+
+    // Combat section.
+    Label CriticalSettingsLabel;
+    Flag CriticalSettings{1};
+    Indexed<Text, 1, 3> CriticalSkill;
+    Indexed<Label, 1, 3> CriticalSkillLabel;
+    List CriticalItem;
+    Flag DamageResistance{0};
+    Text TargetResistance{"11.88"};
+    Label TargetResistanceLabel;
+    Flag Accuracy{0};
+    Text TargetDefense{"60"};
+    Label TargetDefenseLabel;
+    Label CritH, CritHlabel, CritD, CritDlabel, DamageReduction, DamageReductionLabel, HitRate, HitRateLabel;
+
+    // Power section.
+    Label PowerSettings;
+    Flag ExtrapolatePower{0};
+    Indexed<Text, 1, 5> PowerSkill;
+    Indexed<Label, 1, 5> PowerSkillLabel;
+    List PowerCaptain;
+    Flag WarpCore{0};
+    Label PowerBonus, PowerBonusLabel;
+
+    // Weapon section.
+    Label WeaponDamageLabel;
+    Flag RelativeDPS{1};
+    Label WeaponMarklabel, WeaponModLabel;
+    List WeaponMark;
+    Indexed<List, 1, 3> WeaponMod;
+    Indexed<Label, 1, 2> SkillLabel;
+    Indexed<Text, 1, 8> WeaponSkill;
+    Indexed<Label, 1, 8> WeaponSkillLabel;
+    Indexed<List, 1, 2> WeaponType;
+    Indexed<Flag, 1, 2> WeaponAccolade;
+    Label TacticalConsoleLabel;
+    Flag MatchConsole{1};
+    Label MatchConsoleLimit;
+    Indexed<Flag, 1, 4> TacticalConsoleEquipped;
+    Indexed<List, 1, 4> TacticalConsole, TacticalConsoleMark, TacticalConsoleRarity;
+    Indexed<Label, 1, 2> DisplayedDPSLabel;
+    Indexed<Label, 1, 7> CalculatedWeaponDPS, CalculatedWeaponDPSLabel;
+
+    ScrollBar VScroll1;
+};
+
+// The activated skills of one vessel: window `AlphaSkills` or `OmegaSkills`.
+struct VesselSkills {
+    // Start values of window `AlphaSkills` (v = 1) or `OmegaSkills` (v = 2).
+    void SetUp(Vessel v);
+
+    Vessel vessel = 1;
+    Window Form;
+
+    Flag BeamSkillActivated, BeamOverloadActivated, CannonSkillActivated, MineSkillActivated,
+        TacticalTeamActivated, TorpedoSkillActivated, AttackPatternActivated, AttackPatternAlpha;
+    List BeamSkillLevel, BeamOverloadLevel, CannonSkillSelected, CannonSkillLevel, MineSkillSelected,
+        MineSkillLevel, TacticalTeamLevel, TorpedoSkillSelected, TorpedoSkillLevel, AttackPatternSelected,
+        AttackPatternLevel, AttackPatternAlphaLevel;
+    Label AttackPatternAlphaDescription;
+    Text Targets{"1"};
+    Label TargetsLabel;
+    Button Close, Help;
+    Flag SameAsAlpha{1}; // Omega only
+};
+
+// What the engine works out and keeps between calculations.
+struct CalculatorState {
+    int Comparing = 0; // -1 while Omega is shown
+    bool SuppressPowerWarning = false;
+    int WindowFitted = 0;
+
+    Indexed<float, 1, 6> SingleWeaponDPW{};
+    double DPWCoefficient[7][9][6]{}; // [kind 1..6][count 2..8][k 1..5]
+
+    Indexed<PerVessel<std::int16_t>, 1, 11> WeaponCount{};
+    Indexed<PerVessel<float>, 0, 7> ArcDPS{};
+    Indexed<bool, 0, 13> ArcShown{};
+
+    PerVessel<float> BeamModifier{}, CannonModifier{}, TorpedoDamage{}, MineDamage{};
+    PerVessel<float> ResistanceFactor{}, AccuracyFactor{}, ExcessAccuracy{};
+    PerVessel<std::int16_t> ShipPowerBonus{};
+
+    PerVessel<std::int16_t> SkillTargets{}, TorpedoHighYield{}, TorpedoSpread{}, MineSkill{}, BeamOverload{},
+        RapidFire{}, ScatterVolley{}, BeamSkill{}, TacticalTeam{}, AttackPatternBeta{}, AttackPatternAlpha{},
+        AttackPatternOmega{};
+};
+
+// The one pseudo-random sequence of the program, the same on every start.
+class Random {
+  public:
+    // 0 up to but not including 1.
+    double next() { return static_cast<double>(m_engine()) / 4294967296.0; }
+
+  private:
+    std::mt19937 m_engine{20101017u};
+};
+
+// Everything the program knows. `main` (or a test, or the CLI) owns one; the
+// constructor runs the start-up, so a fresh Calculator is the program as it
+// stands when its main window first shows.
+struct Calculator {
+    Calculator();
+    Calculator(const Calculator&) = delete;
+    Calculator& operator=(const Calculator&) = delete;
+
+    MainSelection main;
+    PerVessel<VesselSettings> settings;
+    PerVessel<VesselSkills> skills;
+    CalculatorState state;
+    Random random;
+
+    // Work area of the primary screen in twips, given by the front end.
+    int workLeft = 0, workTop = 0, workWidth = 19200, workHeight = 15600;
+
+    VesselSettings& Alpha() { return settings[1]; }
+    VesselSettings& Omega() { return settings[2]; }
+    const VesselSettings& Alpha() const { return settings[1]; }
+    const VesselSettings& Omega() const { return settings[2]; }
+};
+
+} // namespace vantorel
