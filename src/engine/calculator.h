@@ -145,6 +145,7 @@ void UpdateNote(Calculator& c);
 // ---- Comparison mode (mainwindow/compare.cpp) -----------------------------
 void CompareClicked(Calculator& c);
 void HideCompareClicked(Calculator& c);
+// ---- Window fit (mainwindow/fit.cpp) ----------------------------------------
 // The fit of the main window to the work area, run on every resize.
 void FitWindow(Calculator& c);
 

@@ -5,6 +5,5 @@ namespace vantorel {
 // Not yet built: answers that keep the rest running.
 void CompareClicked(Calculator&) {}
 void HideCompareClicked(Calculator&) {}
-void FitWindow(Calculator&) {}
 
 } // namespace vantorel
