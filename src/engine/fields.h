@@ -34,14 +34,54 @@ class Control {
     int width() const { return m_width; }
     int height() const { return m_height; }
 
-    void setEnabled(bool on) { if (m_enabled != on) { m_enabled = on; changed(); } }
-    void setVisible(bool on) { if (m_visible != on) { m_visible = on; changed(); } }
-    void setBack(Colour c) { if (m_back != c) { m_back = c; changed(); } }
-    void setFore(Colour c) { if (m_fore != c) { m_fore = c; changed(); } }
-    void setLeft(int twips) { if (m_left != twips) { m_left = twips; changed(); } }
-    void setTop(int twips) { if (m_top != twips) { m_top = twips; changed(); } }
-    void setWidth(int twips) { if (m_width != twips) { m_width = twips; changed(); } }
-    void setHeight(int twips) { if (m_height != twips) { m_height = twips; changed(); } }
+    void setEnabled(bool on) {
+        if (m_enabled != on) {
+            m_enabled = on;
+            changed();
+        }
+    }
+    void setVisible(bool on) {
+        if (m_visible != on) {
+            m_visible = on;
+            changed();
+        }
+    }
+    void setBack(Colour c) {
+        if (m_back != c) {
+            m_back = c;
+            changed();
+        }
+    }
+    void setFore(Colour c) {
+        if (m_fore != c) {
+            m_fore = c;
+            changed();
+        }
+    }
+    void setLeft(int twips) {
+        if (m_left != twips) {
+            m_left = twips;
+            changed();
+        }
+    }
+    void setTop(int twips) {
+        if (m_top != twips) {
+            m_top = twips;
+            changed();
+        }
+    }
+    void setWidth(int twips) {
+        if (m_width != twips) {
+            m_width = twips;
+            changed();
+        }
+    }
+    void setHeight(int twips) {
+        if (m_height != twips) {
+            m_height = twips;
+            changed();
+        }
+    }
 
     // The handler runs when the control's value is assigned (see subclasses).
     void setHandler(std::function<void()> handler) { m_handler = std::move(handler); }
@@ -50,8 +90,12 @@ class Control {
     void setView(std::function<void()> view) { m_view = std::move(view); }
 
   protected:
-    void changed() const { if (m_view) m_view(); }
-    void runHandler() const { if (m_handler) m_handler(); }
+    void changed() const {
+        if (m_view) m_view();
+    }
+    void runHandler() const {
+        if (m_handler) m_handler();
+    }
 
   private:
     bool m_enabled = true;
@@ -85,8 +129,18 @@ class Flag : public Control {
 
     const std::string& caption() const { return m_caption; }
     const std::string& tooltip() const { return m_tooltip; }
-    void setCaption(std::string s) { if (m_caption != s) { m_caption = std::move(s); changed(); } }
-    void setTooltip(std::string s) { if (m_tooltip != s) { m_tooltip = std::move(s); changed(); } }
+    void setCaption(std::string s) {
+        if (m_caption != s) {
+            m_caption = std::move(s);
+            changed();
+        }
+    }
+    void setTooltip(std::string s) {
+        if (m_tooltip != s) {
+            m_tooltip = std::move(s);
+            changed();
+        }
+    }
 
   private:
     int m_value = 0;
@@ -108,7 +162,12 @@ class Text : public Control {
         runHandler();
     }
     const std::string& tooltip() const { return m_tooltip; }
-    void setTooltip(std::string s) { if (m_tooltip != s) { m_tooltip = std::move(s); changed(); } }
+    void setTooltip(std::string s) {
+        if (m_tooltip != s) {
+            m_tooltip = std::move(s);
+            changed();
+        }
+    }
 
   private:
     std::string m_text;
@@ -147,7 +206,10 @@ class List : public Control {
     void setText(std::string s) {
         int found = -1;
         for (int i = 0; i < count(); ++i) {
-            if (m_rows[static_cast<std::size_t>(i)] == s) { found = i; break; }
+            if (m_rows[static_cast<std::size_t>(i)] == s) {
+                found = i;
+                break;
+            }
         }
         if (s == m_text && found == m_index) return;
         m_text = std::move(s);
@@ -187,7 +249,12 @@ class List : public Control {
     }
 
     const std::string& tooltip() const { return m_tooltip; }
-    void setTooltip(std::string s) { if (m_tooltip != s) { m_tooltip = std::move(s); changed(); } }
+    void setTooltip(std::string s) {
+        if (m_tooltip != s) {
+            m_tooltip = std::move(s);
+            changed();
+        }
+    }
 
   private:
     void select(int i) {
@@ -213,8 +280,18 @@ class Label : public Control {
 
     const std::string& caption() const { return m_caption; }
     const std::string& tooltip() const { return m_tooltip; }
-    void setCaption(std::string s) { if (m_caption != s) { m_caption = std::move(s); changed(); } }
-    void setTooltip(std::string s) { if (m_tooltip != s) { m_tooltip = std::move(s); changed(); } }
+    void setCaption(std::string s) {
+        if (m_caption != s) {
+            m_caption = std::move(s);
+            changed();
+        }
+    }
+    void setTooltip(std::string s) {
+        if (m_tooltip != s) {
+            m_tooltip = std::move(s);
+            changed();
+        }
+    }
 
   private:
     std::string m_caption;
@@ -233,7 +310,12 @@ class Button : public Label {
 class Picture : public Control {
   public:
     const std::string& image() const { return m_image; }
-    void setImage(std::string s) { if (m_image != s) { m_image = std::move(s); changed(); } }
+    void setImage(std::string s) {
+        if (m_image != s) {
+            m_image = std::move(s);
+            changed();
+        }
+    }
 
   private:
     std::string m_image;
@@ -248,7 +330,12 @@ class Line : public Control {
     int y1() const { return m_y1; }
     int x2() const { return m_x2; }
     int y2() const { return m_y2; }
-    void setY1(int y) { if (m_y1 != y) { m_y1 = y; changed(); } }
+    void setY1(int y) {
+        if (m_y1 != y) {
+            m_y1 = y;
+            changed();
+        }
+    }
 
   private:
     int m_x1 = 0, m_y1 = 0, m_x2 = 0, m_y2 = 0;

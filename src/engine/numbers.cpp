@@ -10,7 +10,8 @@ namespace {
 
 double PowerOfTen(int n) {
     double p = 1.0;
-    for (int i = 0; i < n; ++i) p *= 10.0;
+    for (int i = 0; i < n; ++i)
+        p *= 10.0;
     return p;
 }
 
@@ -56,9 +57,11 @@ int WholeNumber(double x) { return static_cast<int>(std::nearbyint(x)); }
 std::optional<double> NumericValue(std::string_view text) {
     std::size_t i = 0;
     const std::size_t n = text.size();
-    while (i < n && text[i] == ' ') ++i;
+    while (i < n && text[i] == ' ')
+        ++i;
     std::size_t end = n;
-    while (end > i && text[end - 1] == ' ') --end;
+    while (end > i && text[end - 1] == ' ')
+        --end;
     if (i == end) return std::nullopt;
     std::string cleaned;
     std::size_t p = i;
@@ -100,7 +103,8 @@ int WholeNumberOf(std::string_view text, int fallback) {
 
 double LeadingValue(std::string_view text) {
     std::size_t i = 0;
-    while (i < text.size() && text[i] == ' ') ++i;
+    while (i < text.size() && text[i] == ' ')
+        ++i;
     std::string cleaned;
     if (i < text.size() && (text[i] == '+' || text[i] == '-')) {
         if (text[i] == '-') cleaned.push_back('-');
@@ -143,15 +147,18 @@ std::string ShortestText(double x) {
 
 std::string TrimLeft(std::string_view s) {
     std::size_t i = 0;
-    while (i < s.size() && s[i] == ' ') ++i;
+    while (i < s.size() && s[i] == ' ')
+        ++i;
     return std::string(s.substr(i));
 }
 
 std::string Trim(std::string_view s) {
     std::size_t i = 0;
-    while (i < s.size() && s[i] == ' ') ++i;
+    while (i < s.size() && s[i] == ' ')
+        ++i;
     std::size_t e = s.size();
-    while (e > i && s[e - 1] == ' ') --e;
+    while (e > i && s[e - 1] == ' ')
+        --e;
     return std::string(s.substr(i, e - i));
 }
 
