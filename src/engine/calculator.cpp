@@ -7,9 +7,9 @@ namespace vantorel {
 namespace {
 
 const std::vector<std::string> kUnrestrictedClassStart = {
-    "Unrestricted",       "Federation",         "   Cruiser",        "   Escort",          "   Science Vessel",
-    "   Shuttlecraft",    "Klingon",            "   Allied Vessel",  "   Battle Cruiser",  "   Bird of Prey",
-    "   Carrier",         "   Raptor",          "   Shuttlecraft "};
+    "Unrestricted",    "Federation", "   Cruiser",       "   Escort",         "   Science Vessel",
+    "   Shuttlecraft", "Klingon",    "   Allied Vessel", "   Battle Cruiser", "   Bird of Prey",
+    "   Carrier",      "   Raptor",  "   Shuttlecraft "};
 
 const std::vector<std::string> kUnrestrictedTiers = {"Tier 1- Unrestricted Vessel", "Tier 2- Unrestricted Vessel",
                                                      "Tier 3- Unrestricted Vessel", "Tier 4- Unrestricted Vessel",
@@ -29,16 +29,17 @@ std::vector<std::string> WithSameAsAlpha(std::vector<std::string> rows) {
 
 std::vector<std::string> StartPowerRows() {
     std::vector<std::string> rows;
-    for (int p = 35; p <= 125; p += 5) rows.push_back(std::to_string(p) + " (" + std::to_string(p) + ")");
+    for (int p = 35; p <= 125; p += 5)
+        rows.push_back(std::to_string(p) + " (" + std::to_string(p) + ")");
     return rows;
 }
 
 // Box tops of Part 3.1's table, by box index: label top, box top.
 constexpr int kLabelTop[14] = {2520, 3240, 3960, 3960, 5400, 5400, 4680, 5400, 6120, 6840, 6840, 5400, 1800, 7560};
 constexpr int kBoxTop[14] = {2760, 3480, 4200, 4200, 5640, 5640, 4920, 5640, 6360, 7080, 7080, 5640, 2040, 7800};
-const char* const kBoxCaption[14] = {"Forward 45",  "Forward 90", "Forward 110", "Forward 180", "Forward 250",
-                                     "Full 360",    "Front Pocket", "Broadside", "Rear Pocket", "Rear 110",
-                                     "Rear 180",    "Rear 250",   "Front Burst", "Rear Burst"};
+const char* const kBoxCaption[14] = {"Forward 45", "Forward 90",   "Forward 110", "Forward 180", "Forward 250",
+                                     "Full 360",   "Front Pocket", "Broadside",   "Rear Pocket", "Rear 110",
+                                     "Rear 180",   "Rear 250",     "Front Burst", "Rear Burst"};
 
 void Place(Control& ctl, int left, int top, int width, int height) {
     ctl.setLeft(left);
@@ -83,7 +84,8 @@ MainSelection::MainSelection() {
         CForward[i].setText("Forward Weapon Port " + std::to_string(i));
         Rear[i].setText("Rear Weapon Port " + std::to_string(i));
         CRear[i].setText("Rear Weapon Port " + std::to_string(i));
-        for (List* l : {&Forward[i], &CForward[i], &Rear[i], &CRear[i]}) l->setTooltip(weaponsTip);
+        for (List* l : {&Forward[i], &CForward[i], &Rear[i], &CRear[i]})
+            l->setTooltip(weaponsTip);
         CForward[i].setVisible(false);
         CRear[i].setVisible(false);
     }
@@ -99,7 +101,8 @@ MainSelection::MainSelection() {
         ShuttleMod[v] = Flag(0, "Rare Shuttle Array");
 
         // The start-up selects their rows while they are disabled.
-        for (List* l : {&ShipClass[v], &ShipTier[v], &PowerLevel[v], &TargetDistance[v]}) l->setEnabled(false);
+        for (List* l : {&ShipClass[v], &ShipTier[v], &PowerLevel[v], &TargetDistance[v]})
+            l->setEnabled(false);
 
         ShipClass[v].setTooltip("Select your starship's class.");
         ShipTier[v].setTooltip("Select your starship's tier.");
@@ -134,9 +137,9 @@ MainSelection::MainSelection() {
             l->setFore(White);
 
         if (omega) {
-            for (Control* ctl : std::initializer_list<Control*>{&ShipClass[2], &ShipTier[2], &ShipSubclass[2],
-                                                                &PowerLevel[2], &TargetDistance[2], &Skills[2],
-                                                                &Advanced[2]})
+            for (Control* ctl :
+                 std::initializer_list<Control*>{&ShipClass[2], &ShipTier[2], &ShipSubclass[2], &PowerLevel[2],
+                                                 &TargetDistance[2], &Skills[2], &Advanced[2]})
                 ctl->setVisible(false);
         }
     }
@@ -183,7 +186,8 @@ MainSelection::MainSelection() {
     FiringArcsLabel = Label("Firing Arcs");
     FiringArcsLabel.setFore(White);
     Place(FiringArcsLabel, 4320, 2160, 5415, 495);
-    for (Label* l : {&Primarylabel, &Secondarylabel, &Note, &FiringArcsLabel}) l->setBack(Black);
+    for (Label* l : {&Primarylabel, &Secondarylabel, &Note, &FiringArcsLabel})
+        l->setBack(Black);
 
     for (int i = 0; i <= 13; ++i) {
         FiringArcLabel[i] = Label(kBoxCaption[i]);
@@ -248,11 +252,11 @@ void VesselSettings::SetUp(Vessel v) {
     GreyLabel(RankLabel, "Rank");
     GreyLabel(ClassLabel, "Career");
     ClosedList(Faction, rows({"Federation", "Klingon"}), "Select the faction your captain belongs to.");
-    ClosedList(Rank,
-               rows({"Ensign/Warrior", "Lieutenant", "Lt. Commander/Sergeant", "Commander", "Captain",
-                     "Rear Admiral LH/Brigadier General", "Rear Admiral UH/Major General",
-                     "Vice Admiral/Lieutenant General"}),
-               "Select the rank of your captain.");
+    ClosedList(
+        Rank,
+        rows({"Ensign/Warrior", "Lieutenant", "Lt. Commander/Sergeant", "Commander", "Captain",
+              "Rear Admiral LH/Brigadier General", "Rear Admiral UH/Major General", "Vice Admiral/Lieutenant General"}),
+        "Select the rank of your captain.");
     ClosedList(Class, rows({"Unrestricted", "Engineering Officer", "Science Officer", "Tactical Officer"}),
                "Select the career of your captain.");
 
@@ -284,7 +288,8 @@ void VesselSettings::SetUp(Vessel v) {
     CritD = Label("75%", "Critical Severity- Base: 50%, Battle Strategy (Max): 25%");
     DamageReduction = Label("0%");
     HitRate = Label("100%");
-    for (Label* l : {&CritH, &CritD, &DamageReduction, &HitRate}) l->setBack(Grey);
+    for (Label* l : {&CritH, &CritD, &DamageReduction, &HitRate})
+        l->setBack(Grey);
     GreyLabel(CritHlabel, "Critical Chance");
     GreyLabel(CritDlabel, "Critical Severity");
     GreyLabel(DamageReductionLabel, "Damage Reduction");
@@ -329,8 +334,9 @@ void VesselSettings::SetUp(Vessel v) {
                    "Select any weapon mod bonuses for your weapons.");
     GreyLabel(SkillLabel[1], "Energy Weapon Skills");
     GreyLabel(SkillLabel[2], "Projectile Weapon Skills");
-    const char* const weaponNames[9] = {"",          "Energy Weapons",     "Beam Weapons", "Cannon Weapons", "",
-                                        "Projectile Weapons", "Mine Weapons", "Torpedo Weapons", ""};
+    const char* const weaponNames[9] = {"", "Energy Weapons",     "Beam Weapons", "Cannon Weapons",
+                                        "", "Projectile Weapons", "Mine Weapons", "Torpedo Weapons",
+                                        ""};
     for (int i = 1; i <= 8; ++i) {
         WeaponSkill[i] = Text("");
         ClosedText(WeaponSkill[i], "");
@@ -375,8 +381,8 @@ void VesselSettings::SetUp(Vessel v) {
     }
     GreyLabel(DisplayedDPSLabel[1], "Displayed DPS (100 Weapon Power)");
     GreyLabel(DisplayedDPSLabel[2], "Displayed Burst Damage");
-    const char* const displayed[8] = {"",       "Dual (Heavy) Cannons", "Dual Beam Bank",   "Single Cannon",
-                                      "Beam Array", "Turret",           "Torpedo Launcher", "Mine Launcher"};
+    const char* const displayed[8] = {"",       "Dual (Heavy) Cannons", "Dual Beam Bank", "Single Cannon", "Beam Array",
+                                      "Turret", "Torpedo Launcher",     "Mine Launcher"};
     for (int i = 1; i <= 7; ++i) {
         CalculatedWeaponDPS[i] = Label("");
         CalculatedWeaponDPS[i].setBack(Grey);
@@ -400,13 +406,12 @@ void VesselSkills::SetUp(Vessel v) {
     AttackPatternAlpha = Flag(0, "Attack Pattern Alpha ");
 
     const std::string relativeOnly = "Requires Relative DPS to be disabled.";
-    BeamSkillLevel = List({"1 (+20% Beam DPS, + hits random extra target)",
-                           "2 (+27.5% Beam DPS, + hits random extra target)",
-                           "3 (+35% Beam DPS, + hits random extra target)"});
+    BeamSkillLevel =
+        List({"1 (+20% Beam DPS, + hits random extra target)", "2 (+27.5% Beam DPS, + hits random extra target)",
+              "3 (+35% Beam DPS, + hits random extra target)"});
     BeamOverloadLevel = List({"1 (600% Beam Damage)", "2 (725% Beam Damage)", "3 (850% Beam Damage)"});
     CannonSkillSelected = List({"Rapid Fire", "Scatter Volley"});
-    CannonSkillLevel =
-        List({"1 (+30% Cannon Damage)", "2 (+40% Cannon Damage)", "3 (+50% Cannon Damage)"});
+    CannonSkillLevel = List({"1 (+30% Cannon Damage)", "2 (+40% Cannon Damage)", "3 (+50% Cannon Damage)"});
     MineSkillSelected = List({"Alpha", "Beta"});
     MineSkillLevel = List({"1 (160% Mine Count)", "2 (240% Mine Count)", "3 (320% Mine Count)"});
     TacticalTeamLevel = List({relativeOnly, relativeOnly, relativeOnly});
@@ -446,8 +451,7 @@ void VesselSkills::SetUp(Vessel v) {
                  &AttackPatternLevel, &AttackPatternSelected, &BeamSkillActivated, &BeamSkillLevel,
                  &BeamOverloadActivated, &BeamOverloadLevel, &CannonSkillActivated, &CannonSkillSelected,
                  &CannonSkillLevel, &MineSkillActivated, &MineSkillSelected, &MineSkillLevel, &TacticalTeamLevel,
-                 &TorpedoSkillActivated, &TorpedoSkillSelected, &TorpedoSkillLevel, &AttackPatternAlphaLevel,
-                 &Targets})
+                 &TorpedoSkillActivated, &TorpedoSkillSelected, &TorpedoSkillLevel, &AttackPatternAlphaLevel, &Targets})
             ctl->setEnabled(false);
         Targets.setBack(Grey);
         TargetsLabel.setFore(Grey);

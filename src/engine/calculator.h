@@ -37,9 +37,8 @@ float CannonSkillModifier(const Calculator& c, Vessel v, bool turret);
 float SkillPoints(int table, int level);
 float CriticalMultiplier(const Calculator& c, Vessel v, bool boosted, float chance, float severity);
 int GetRange(const Calculator& c, Vessel v);
-float CalculateDPS(Calculator& c, int dualHeavyCannons, int dualCannons, int dualBeamBanks, int cannons,
-                   int beamArrays, int turrets, int shuttleBeamArrays, int power, int distance, Vessel v,
-                   bool noSkills);
+float CalculateDPS(Calculator& c, int dualHeavyCannons, int dualCannons, int dualBeamBanks, int cannons, int beamArrays,
+                   int turrets, int shuttleBeamArrays, int power, int distance, Vessel v, bool noSkills);
 
 // ---- Weapon counting (engine/counting.cpp) -------------------------------
 void CountWeapons(Calculator& c);
@@ -71,8 +70,8 @@ void UpdateSameAsAlphaPower(Calculator& c);
 void ModifiedPower(Calculator& c, Vessel v);
 
 // ---- Burst damage (engine/burst.cpp) -------------------------------------
-float CalculateBurst(Calculator& c, int torpedoes, int mines, int dualBeamBanks, int beamArrays,
-                     int shuttleBeamArrays, Vessel v);
+float CalculateBurst(Calculator& c, int torpedoes, int mines, int dualBeamBanks, int beamArrays, int shuttleBeamArrays,
+                     Vessel v);
 std::string BurstToolTip(Calculator& c, int torpedoes, int mines, int dualBeamBanks, int beamArrays,
                          int shuttleBeamArrays, Vessel v);
 float GetTorpedoSkill(const Calculator& c, Vessel v);
@@ -155,8 +154,8 @@ std::string CalculateToolTip(Calculator& c, int dualHeavyCannons, int dualCannon
 
 // ---- Ship image (mainwindow/shipimage.cpp) --------------------------------
 void ShipImageControl(Calculator& c);
-void DrawShip(Calculator& c, const std::string& shipClass, int tier, int subclass, const std::string& class2,
-              int tier2, int subclass2);
+void DrawShip(Calculator& c, const std::string& shipClass, int tier, int subclass, const std::string& class2, int tier2,
+              int subclass2);
 // The file name (without folder and ending) for a ship, or "" if the table
 // has none; "Klingon" draws one of five by chance.
 std::string ShipImageName(Calculator& c, const std::string& shipClass, int tier, int subclass);

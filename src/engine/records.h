@@ -27,7 +27,12 @@ class Window : public Control {
     explicit Window(std::string title, bool shown = false) : m_title(std::move(title)) { setVisible(shown); }
     const std::string& title() const { return m_title; }
     WindowState state() const { return m_state; }
-    void setState(WindowState s) { if (m_state != s) { m_state = s; changed(); } }
+    void setState(WindowState s) {
+        if (m_state != s) {
+            m_state = s;
+            changed();
+        }
+    }
     int innerWidth() const { return m_innerWidth; }
     int innerHeight() const { return m_innerHeight; }
     void setInnerSize(int w, int h) {
@@ -146,11 +151,11 @@ struct VesselSkills {
     Vessel vessel = 1;
     Window Form;
 
-    Flag BeamSkillActivated, BeamOverloadActivated, CannonSkillActivated, MineSkillActivated,
-        TacticalTeamActivated, TorpedoSkillActivated, AttackPatternActivated, AttackPatternAlpha;
-    List BeamSkillLevel, BeamOverloadLevel, CannonSkillSelected, CannonSkillLevel, MineSkillSelected,
-        MineSkillLevel, TacticalTeamLevel, TorpedoSkillSelected, TorpedoSkillLevel, AttackPatternSelected,
-        AttackPatternLevel, AttackPatternAlphaLevel;
+    Flag BeamSkillActivated, BeamOverloadActivated, CannonSkillActivated, MineSkillActivated, TacticalTeamActivated,
+        TorpedoSkillActivated, AttackPatternActivated, AttackPatternAlpha;
+    List BeamSkillLevel, BeamOverloadLevel, CannonSkillSelected, CannonSkillLevel, MineSkillSelected, MineSkillLevel,
+        TacticalTeamLevel, TorpedoSkillSelected, TorpedoSkillLevel, AttackPatternSelected, AttackPatternLevel,
+        AttackPatternAlphaLevel;
     Label AttackPatternAlphaDescription;
     Text Targets{"1"};
     Label TargetsLabel;
