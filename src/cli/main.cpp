@@ -1,1 +1,69 @@
-int main() { return 0; }
+// vantorel-cli [SCRIPT]: runs a script of user actions and prints the state as
+// JSON. The script comes from SCRIPT, or from standard input when SCRIPT is
+// absent or "-".
+
+#include "cli/script.h"
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <string>
+
+namespace {
+
+constexpr int kBadInput = 2;
+
+const char* const kUsage = "usage: vantorel-cli [SCRIPT]\n"
+                           "Runs the actions of SCRIPT (standard input if absent or \"-\") and prints JSON.\n";
+
+// The whole text of a stream; false if reading failed part way.
+bool ReadAll(std::istream& in, std::string& text) {
+    std::ostringstream buffer;
+    char chunk[4096];
+    while (in.read(chunk, sizeof chunk) || in.gcount() > 0)
+        buffer.write(chunk, in.gcount());
+    if (in.bad()) return false;
+    text = buffer.str();
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::string path = argc > 1 ? argv[1] : "-";
+    if (argc > 2) {
+        std::cerr << kUsage;
+        return kBadInput;
+    }
+    if (path == "--help" || path == "-h") {
+        std::cout << kUsage;
+        return 0;
+    }
+
+    std::string script;
+    if (path == "-") {
+        if (!ReadAll(std::cin, script)) {
+            std::cerr << "vantorel-cli: cannot read standard input\n";
+            return kBadInput;
+        }
+    } else {
+        std::error_code ec;
+        if (std::filesystem::is_directory(path, ec)) {
+            std::cerr << "vantorel-cli: cannot read " << path << ": it is a directory\n";
+            return kBadInput;
+        }
+        std::ifstream file(path, std::ios::binary);
+        if (!file) {
+            std::cerr << "vantorel-cli: cannot read " << path << ": " << std::strerror(errno) << '\n';
+            return kBadInput;
+        }
+        if (!ReadAll(file, script)) {
+            std::cerr << "vantorel-cli: cannot read " << path << '\n';
+            return kBadInput;
+        }
+    }
+    return vantorel::RunScript(script, std::cout, std::cerr);
+}

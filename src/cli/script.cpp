@@ -1,9 +1,438 @@
 #include "cli/script.h"
 
+#include "cli/json.h"
+#include "engine/calculator.h"
+#include "engine/registry.h"
+
+#include <charconv>
+#include <exception>
+#include <limits>
+#include <optional>
 #include <ostream>
+#include <string_view>
+#include <vector>
 
 namespace vantorel {
 
-int RunScript(const std::string&, std::ostream&, std::ostream&) { return 0; }
+namespace {
+
+// A bad line: its message, without the line number.
+struct ScriptError {
+    std::string message;
+};
+
+[[noreturn]] void Fail(std::string message) { throw ScriptError{std::move(message)}; }
+
+bool IsBlank(char ch) { return ch == ' ' || ch == '\t' || ch == '\r'; }
+
+// A value as written: "quoted text", #row, or a bare word such as 0, 1 or 2.5.
+struct Value {
+    enum class Form { Quoted, Row, Bare } form = Form::Bare;
+    std::string text; // unescaped text, or the word; for a row, the digits
+    int row = 0;
+
+    std::string written() const {
+        switch (form) {
+        case Form::Quoted:
+            return JsonString(text);
+        case Form::Row:
+            return "#" + text;
+        case Form::Bare:
+            return text;
+        }
+        return text;
+    }
+};
+
+class LineReader {
+  public:
+    explicit LineReader(std::string_view line) : m_rest(line) {}
+
+    bool atEnd() {
+        skipBlanks();
+        return m_rest.empty();
+    }
+
+    std::string word() {
+        skipBlanks();
+        std::size_t n = 0;
+        while (n < m_rest.size() && !IsBlank(m_rest[n]))
+            ++n;
+        std::string w(m_rest.substr(0, n));
+        m_rest.remove_prefix(n);
+        return w;
+    }
+
+    // A name may hold blanks inside its brackets: `State.ArcDPS[0, 1]`.
+    std::string name() {
+        skipBlanks();
+        std::size_t n = 0;
+        int depth = 0;
+        while (n < m_rest.size() && (depth > 0 || !IsBlank(m_rest[n]))) {
+            if (m_rest[n] == '[') ++depth;
+            if (m_rest[n] == ']' && depth > 0) --depth;
+            ++n;
+        }
+        std::string w(m_rest.substr(0, n));
+        m_rest.remove_prefix(n);
+        return w;
+    }
+
+    std::optional<Value> value() {
+        skipBlanks();
+        if (m_rest.empty()) return std::nullopt;
+        Value v;
+        if (m_rest.front() == '"') {
+            v.form = Value::Form::Quoted;
+            v.text = quoted();
+        } else if (m_rest.front() == '#') {
+            v.form = Value::Form::Row;
+            m_rest.remove_prefix(1);
+            v.text = word();
+            const char* end = v.text.data() + v.text.size();
+            auto [ptr, ec] = std::from_chars(v.text.data(), end, v.row);
+            if (v.text.empty() || ec != std::errc() || ptr != end)
+                Fail("malformed row number #" + v.text + ", expected #0, #1, ...");
+        } else {
+            v.text = word();
+        }
+        return v;
+    }
+
+    // What is left after the value, if anything: always an error.
+    void expectEnd(const std::string& what) {
+        if (!atEnd()) Fail(what + ": unexpected text after the value: " + std::string(m_rest));
+    }
+
+  private:
+    void skipBlanks() {
+        while (!m_rest.empty() && IsBlank(m_rest.front()))
+            m_rest.remove_prefix(1);
+    }
+
+    std::string quoted() {
+        m_rest.remove_prefix(1);
+        std::string out;
+        while (!m_rest.empty()) {
+            const char ch = m_rest.front();
+            m_rest.remove_prefix(1);
+            if (ch == '"') return out;
+            if (ch == '\\') {
+                if (m_rest.empty() || (m_rest.front() != '"' && m_rest.front() != '\\'))
+                    Fail("malformed text: only \\\" and \\\\ may follow a backslash");
+                out.push_back(m_rest.front());
+                m_rest.remove_prefix(1);
+            } else {
+                out.push_back(ch);
+            }
+        }
+        Fail("malformed text: the closing \" is missing");
+    }
+
+    std::string_view m_rest;
+};
+
+template <typename T> std::optional<T> Parse(const std::string& text) {
+    T value{};
+    const char* end = text.data() + text.size();
+    auto [ptr, ec] = std::from_chars(text.data(), end, value);
+    if (text.empty() || ec != std::errc() || ptr != end) return std::nullopt;
+    return value;
+}
+
+class Runner {
+  public:
+    explicit Runner(Calculator& c) : m_registry(c) {}
+
+    void run(std::string_view line) {
+        LineReader in(line);
+        const std::string verb = in.word();
+        if (verb == "print") return print(in);
+        if (verb != "select" && verb != "check" && verb != "type" && verb != "click" && verb != "set")
+            Fail("unknown verb \"" + verb + "\"; the verbs are select, check, type, click, set and print");
+
+        const std::string name = in.name();
+        if (name.empty()) Fail(verb + ": the name of a control is missing");
+        const ControlRef& ref = lookup(name);
+        const std::string what = verb + " " + ref.name;
+        std::optional<Value> value = in.value();
+        in.expectEnd(what);
+
+        if (verb == "select") return select(ref, what, value);
+        if (verb == "check") return check(ref, what, value);
+        if (verb == "type") return type(ref, what, value);
+        if (verb == "click") return click(ref, what, value);
+        return set(ref, what, value);
+    }
+
+    bool printed() const { return m_printed; }
+    const std::string& output() const { return m_output; }
+
+    void printAll() {
+        std::vector<const ControlRef*> refs;
+        for (const ControlRef& ref : m_registry.all())
+            refs.push_back(&ref);
+        m_output += JsonObject(refs);
+    }
+
+  private:
+    const ControlRef& lookup(const std::string& written) {
+        if (const ControlRef* ref = m_registry.find(written)) return *ref;
+        const std::string name = NormalName(written);
+        const std::size_t bracket = name.find('[');
+        const std::string base = name.substr(0, bracket);
+        if (m_registry.isArray(base)) {
+            if (bracket == std::string::npos) Fail(base + " is a control array: give an index, as in " + range(base));
+            Fail(name + ": index out of range; " + range(base));
+        }
+        if (bracket != std::string::npos && m_registry.find(base)) Fail(name + ": " + base + " is not an array");
+        Fail("unknown control " + written);
+    }
+
+    // "Form1.Forward[1] to Form1.Forward[4]": the first and last names.
+    std::string range(const std::string& base) const {
+        const ControlRef* first = nullptr;
+        const ControlRef* last = nullptr;
+        for (const ControlRef& ref : m_registry.all()) {
+            if (ref.base != base || ref.name == base) continue;
+            if (!first) first = &ref;
+            last = &ref;
+        }
+        return first ? first->name + " to " + last->name : base;
+    }
+
+    // A user can only reach a control that is on show and enabled, on a
+    // window that is on show. The main window counts as on show: a script
+    // runs after the start-up, while the program is open.
+    static void usable(const ControlRef& ref, const std::string& what) {
+        if (!ref.control) Fail(what + ": refused, an engine value is not a control; use set");
+        const std::string kind(KindName(ref.kind()));
+        if (!ref.control->visible()) Fail(what + ": refused, the " + kind + " is hidden");
+        if (!ref.control->enabled()) Fail(what + ": refused, the " + kind + " is disabled");
+        if (ref.form && ref.form != ref.control && ref.window != "Form1" && !ref.form->visible())
+            Fail(what + ": refused, window " + ref.window + " is hidden");
+    }
+
+    static void wrongKind(const ControlRef& ref, const std::string& what, const char* wanted) {
+        std::string hint;
+        switch (ref.kind()) {
+        case ValueKind::List:
+            hint = " (select a row of a list)";
+            break;
+        case ValueKind::Flag:
+            hint = " (check a check box)";
+            break;
+        case ValueKind::Button:
+            hint = " (click a button)";
+            break;
+        case ValueKind::Text:
+            hint = " (type into a text box)";
+            break;
+        default:
+            break;
+        }
+        Fail(what + ": not " + wanted + " but a " + std::string(KindName(ref.kind())) + hint);
+    }
+
+    static int flagValue(const std::string& what, const std::optional<Value>& value) {
+        if (!value) Fail(what + ": the value 0 or 1 is missing");
+        if (value->form != Value::Form::Bare || (value->text != "0" && value->text != "1"))
+            Fail(what + ": malformed value " + value->written() + ", expected 0 or 1");
+        return value->text == "1" ? 1 : 0;
+    }
+
+    static int rowOf(const List& list, const std::string& what, const Value& value) {
+        if (value.form == Value::Form::Row) {
+            if (value.row < 0 || value.row >= list.count()) {
+                if (list.count() == 0) Fail(what + ": no row #" + value.text + ", the list is empty");
+                Fail(what + ": no row #" + value.text + ", the list has rows #0 to #" +
+                     std::to_string(list.count() - 1));
+            }
+            return value.row;
+        }
+        for (int i = 0; i < list.count(); ++i) {
+            if (list.row(i) == value.text) return i;
+        }
+        Fail(what + ": no row " + value.written());
+    }
+
+    static void select(const ControlRef& ref, const std::string& what, const std::optional<Value>& value) {
+        if (ref.kind() != ValueKind::List) wrongKind(ref, what, "a list");
+        if (!value || value->form == Value::Form::Bare)
+            Fail(what + ": expected a row as \"row text\" or #N" + (value ? ", got " + value->written() : ""));
+        List& list = *std::get<List*>(ref.target);
+        usable(ref, what);
+        list.click(rowOf(list, what, *value));
+    }
+
+    static void check(const ControlRef& ref, const std::string& what, const std::optional<Value>& value) {
+        if (ref.kind() != ValueKind::Flag) wrongKind(ref, what, "a check box");
+        const int wanted = flagValue(what, value);
+        usable(ref, what);
+        // A click toggles, so a box that already holds the value is left alone.
+        Flag& flag = *std::get<Flag*>(ref.target);
+        if (flag.value() != wanted) flag.click();
+    }
+
+    static void type(const ControlRef& ref, const std::string& what, const std::optional<Value>& value) {
+        const bool typingList = ref.kind() == ValueKind::List && std::get<List*>(ref.target)->typing();
+        if (ref.kind() != ValueKind::Text && !typingList) {
+            if (ref.kind() == ValueKind::List) Fail(what + ": refused, the list takes no typing; select a row");
+            wrongKind(ref, what, "a text box or a list with typing");
+        }
+        if (!value || value->form != Value::Form::Quoted)
+            Fail(what + ": expected \"text\"" + (value ? ", got " + value->written() : ""));
+        usable(ref, what);
+        if (typingList) {
+            std::get<List*>(ref.target)->setText(value->text);
+        } else {
+            std::get<Text*>(ref.target)->setText(value->text);
+        }
+    }
+
+    static void click(const ControlRef& ref, const std::string& what, const std::optional<Value>& value) {
+        if (ref.kind() != ValueKind::Button) wrongKind(ref, what, "a button");
+        if (value) Fail(what + ": a button takes no value, got " + value->written());
+        usable(ref, what);
+        std::get<Button*>(ref.target)->press();
+    }
+
+    template <typename T> static T number(const std::string& what, const Value& value) {
+        const std::optional<T> n = value.form == Value::Form::Bare ? Parse<T>(value.text) : std::nullopt;
+        if (!n) Fail(what + ": malformed value " + value.written() + ", expected a number");
+        return *n;
+    }
+
+    static std::int16_t int16(const std::string& what, const Value& value) {
+        const int n = number<int>(what, value);
+        if (n < std::numeric_limits<std::int16_t>::min() || n > std::numeric_limits<std::int16_t>::max())
+            Fail(what + ": " + value.text + " is out of range of a 16-bit whole number");
+        return static_cast<std::int16_t>(n);
+    }
+
+    static std::string quotedText(const std::string& what, const Value& value) {
+        if (value.form != Value::Form::Quoted) Fail(what + ": expected \"text\", got " + value.written());
+        return value.text;
+    }
+
+    static void set(const ControlRef& ref, const std::string& what, const std::optional<Value>& value) {
+        if (!value) Fail(what + ": the value is missing");
+        const Value& v = *value;
+        switch (ref.kind()) {
+        case ValueKind::Flag:
+            std::get<Flag*>(ref.target)->setValue(flagValue(what, value));
+            return;
+        case ValueKind::Text:
+            std::get<Text*>(ref.target)->setText(quotedText(what, v));
+            return;
+        case ValueKind::Label:
+            std::get<Label*>(ref.target)->setCaption(quotedText(what, v));
+            return;
+        case ValueKind::Button:
+            std::get<Button*>(ref.target)->setCaption(quotedText(what, v));
+            return;
+        case ValueKind::Picture:
+            std::get<Picture*>(ref.target)->setImage(quotedText(what, v));
+            return;
+        case ValueKind::String:
+            *std::get<std::string*>(ref.target) = quotedText(what, v);
+            return;
+        case ValueKind::ScrollBar:
+            std::get<ScrollBar*>(ref.target)->setValue(number<int>(what, v));
+            return;
+        case ValueKind::List: {
+            List& list = *std::get<List*>(ref.target);
+            if (v.form == Value::Form::Row) {
+                // -1 is a real assignment: it clears the selection.
+                if (v.row != -1) rowOf(list, what, v);
+                list.setIndex(v.row);
+            } else if (v.form == Value::Form::Quoted) {
+                // Only a list with typing can hold a text that is not a row.
+                if (!list.typing()) rowOf(list, what, v);
+                list.setText(v.text);
+            } else {
+                Fail(what + ": expected #N or \"text\", got " + v.written());
+            }
+            return;
+        }
+        case ValueKind::Int:
+            *std::get<int*>(ref.target) = number<int>(what, v);
+            return;
+        case ValueKind::Int16:
+            *std::get<std::int16_t*>(ref.target) = int16(what, v);
+            return;
+        case ValueKind::Single:
+            *std::get<float*>(ref.target) = number<float>(what, v);
+            return;
+        case ValueKind::Double:
+            *std::get<double*>(ref.target) = number<double>(what, v);
+            return;
+        case ValueKind::Bool:
+            *std::get<bool*>(ref.target) = flagValue(what, value) == 1;
+            return;
+        case ValueKind::Window:
+        case ValueKind::Control:
+        case ValueKind::Line:
+            Fail(what + ": a " + std::string(KindName(ref.kind())) + " has no value to set");
+        }
+    }
+
+    void print(LineReader& in) {
+        std::string pattern = "*";
+        if (std::optional<Value> v = in.value()) {
+            if (v->form == Value::Form::Row) Fail("print: malformed pattern " + v->written());
+            pattern = v->text;
+        }
+        in.expectEnd("print " + pattern);
+        std::vector<const ControlRef*> refs;
+        for (const ControlRef& ref : m_registry.all()) {
+            if (GlobMatch(pattern, ref.name)) refs.push_back(&ref);
+        }
+        if (refs.empty()) Fail("print " + pattern + ": no control or engine value matches");
+        m_output += JsonObject(refs);
+        m_printed = true;
+    }
+
+    ControlRegistry m_registry;
+    std::string m_output;
+    bool m_printed = false;
+};
+
+} // namespace
+
+int RunScript(const std::string& script, std::ostream& out, std::ostream& err) {
+    Calculator calculator;
+    return RunScript(calculator, script, out, err);
+}
+
+int RunScript(Calculator& calculator, const std::string& script, std::ostream& out, std::ostream& err) {
+    Runner runner(calculator);
+    std::size_t start = 0;
+    int number = 0;
+    while (start < script.size()) {
+        std::size_t end = script.find('\n', start);
+        if (end == std::string::npos) end = script.size();
+        std::string_view line(script.data() + start, end - start);
+        start = end + 1;
+        ++number;
+
+        while (!line.empty() && IsBlank(line.front()))
+            line.remove_prefix(1);
+        if (line.empty() || line.front() == '#') continue;
+        try {
+            runner.run(line);
+        } catch (const ScriptError& e) {
+            err << "line " << number << ": " << e.message << '\n';
+            return 2;
+        } catch (const std::exception& e) {
+            // A fault of the program, not of the script; still, no partial output.
+            err << "line " << number << ": the program failed: " << e.what() << '\n';
+            return 2;
+        }
+    }
+    if (!runner.printed()) runner.printAll();
+    out << runner.output();
+    return 0;
+}
 
 } // namespace vantorel

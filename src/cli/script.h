@@ -1,14 +1,30 @@
 #pragma once
 
 // Runs scripts of user actions against a Calculator and prints its state.
+//
+// One action a line; blank lines and lines that start with `#` are skipped:
+//   select CONTROL "row text" | #N   click a row of a list
+//   check CONTROL 0|1                 set a check box as a click does
+//   type CONTROL "text"               replace the text of a text box or of a list with typing
+//   click CONTROL                     press a button
+//   set CONTROL VALUE                 assign as the program's code does: no click, no checks
+//   print [GLOB]                      one JSON object of the matching names
+// The first four are a user's actions, refused on a control that is hidden or
+// disabled or whose window is hidden.
 
 #include <iosfwd>
 #include <string>
 
 namespace vantorel {
 
-// Runs the script text; writes JSON to `out` and errors to `err`. Returns the
-// exit status: 0, or 2 for a script with an error (nothing is printed then).
+struct Calculator;
+
+// Runs the script text on a fresh Calculator; writes JSON to `out` and errors
+// to `err`. Returns the exit status: 0, or 2 for a script with an error, in
+// which case nothing at all is written to `out`.
 int RunScript(const std::string& script, std::ostream& out, std::ostream& err);
+
+// The same on a given Calculator, which keeps what the script did to it.
+int RunScript(Calculator& calculator, const std::string& script, std::ostream& out, std::ostream& err);
 
 } // namespace vantorel

@@ -1,0 +1,36 @@
+#pragma once
+
+// The JSON form of controls and engine values, and the name patterns of
+// `print`. Written by hand: the output is small and its form is fixed.
+
+#include "engine/registry.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantorel {
+
+// A JSON string literal. Valid UTF-8 passes through; control characters are
+// escaped; a byte that is not part of valid UTF-8 is read as Latin-1, so the
+// output stays valid JSON whatever a caption holds.
+std::string JsonString(std::string_view text);
+
+// A single or double as the shortest decimal that reads back to the same
+// value; JSON has no infinity or NaN, so those are written as null.
+std::string JsonNumber(float x);
+std::string JsonNumber(double x);
+
+// The JSON value of one control or engine value: an object for a control, a
+// number (or true/false) for an engine value.
+std::string JsonValue(const ControlRef& ref);
+
+// One JSON object of the given entries, keyed by name, one entry a line.
+std::string JsonObject(const std::vector<const ControlRef*>& refs);
+
+// Shell-style match of a whole name: `*` any run of characters, `?` any one.
+// Every other character, `[` and `]` included, matches itself, so a pattern
+// can spell a name as it is written: `Form1.Forward[1]`, `State.ArcDPS[*,1]`.
+bool GlobMatch(std::string_view pattern, std::string_view name);
+
+} // namespace vantorel
