@@ -1,14 +1,206 @@
 #include "engine/calculator.h"
 
+#include "engine/numbers.h"
+
+#include <algorithm>
+
 namespace vantorel {
 
-// Not yet built: answers that keep the rest running.
-float GetRangeMod(int, int) { return 1.0f; }
-float BeamSkillModifier(const Calculator&, Vessel) { return 1.0f; }
-float CannonSkillModifier(const Calculator&, Vessel, bool) { return 1.0f; }
-float SkillPoints(int, int) { return 0.0f; }
-float CriticalMultiplier(const Calculator&, Vessel, bool, float, float) { return 1.03375f; }
-int GetRange(const Calculator&, Vessel) { return 0; }
-float CalculateDPS(Calculator&, int, int, int, int, int, int, int, int, int, Vessel, bool) { return 0.0f; }
+namespace {
+
+// Beams fall off evenly from the first km; cannons and turrets hold full
+// damage to 2 km and then fall off faster.
+constexpr float kBeamRange[10] = {1.0f,       0.9611111f,  0.9222222f, 0.8833333f, 0.84444445f,
+                                  0.8055556f, 0.76666665f, 0.7277778f, 0.6888889f, 0.65f};
+constexpr float kCannonRange[10] = {1.0f,   1.0f,     0.91875f, 0.8375f,  0.75625f,
+                                    0.675f, 0.59375f, 0.5125f,  0.43125f, 0.35f};
+
+constexpr float kSkillPoints[3][9] = {
+    {6.0f, 10.0f, 12.0f, 14.0f, 15.0f, 16.0f, 17.0f, 17.5f, 18.0f},
+    {8.0f, 14.0f, 18.0f, 22.0f, 24.0f, 26.0f, 28.0f, 29.0f, 30.0f},
+    {10.0f, 18.0f, 24.0f, 30.0f, 36.0f, 40.0f, 44.0f, 48.0f, 52.0f},
+};
+
+// The Attack Vectors level that switches critical hits off altogether.
+constexpr int kNoCriticalLevel = 47;
+
+bool RelativeMode(const Calculator& c) { return c.Alpha().RelativeDPS.value() != 0; }
+
+// One weapon term, ((((count × D) × R) × S) × M) × C, in the precision of
+// the DPW: a lone weapon is summed in single, a group in double.
+template <typename T> T Term(int count, T dpw, float range, float skill, float modifier, float critical) {
+    T t = static_cast<T>(count) * dpw;
+    t = t * static_cast<T>(range);
+    t = t * static_cast<T>(skill);
+    t = t * static_cast<T>(modifier);
+    t = t * static_cast<T>(critical);
+    return t;
+}
+
+} // namespace
+
+float GetRangeMod(int distance, int group) {
+    const int d = std::clamp(distance, 0, 9);
+    return group == 1 ? kBeamRange[d] : kCannonRange[d];
+}
+
+float BeamSkillModifier(const Calculator& c, Vessel v) {
+    static constexpr float kFactor[4] = {1.0f, 1.2f, 1.275f, 1.35f};
+    const int level = std::clamp<int>(c.state.BeamSkill[v], 0, 3);
+    float factor = kFactor[level];
+    // Fire At Will reaches one extra target at most.
+    if (level >= 1 && c.state.SkillTargets[v] > 1) factor = factor * 2.0f;
+    return factor;
+}
+
+float CannonSkillModifier(const Calculator& c, Vessel v, bool turret) {
+    static constexpr float kRapid[3] = {1.3f, 1.4f, 1.5f};
+    static constexpr float kScatter[3] = {1.15f, 1.2f, 1.25f};
+    static constexpr float kScatterTurret[3] = {1.168f, 1.45f, 1.733f};
+    const int rapid = c.state.RapidFire[v];
+    if (rapid >= 1) return kRapid[std::min(rapid, 3) - 1];
+    const int scatter = c.state.ScatterVolley[v];
+    if (scatter >= 1) {
+        const int level = std::min(scatter, 3) - 1;
+        const float factor = turret ? kScatterTurret[level] : kScatter[level];
+        const int targets = std::min<int>(c.state.SkillTargets[v], 3);
+        return factor * static_cast<float>(targets);
+    }
+    return 1.0f;
+}
+
+float SkillPoints(int table, int level) {
+    if (level < 1 || level > 9 || table < 1) return 0.0f;
+    return kSkillPoints[std::min(table, 3) - 1][level - 1];
+}
+
+float CriticalMultiplier(const Calculator& c, Vessel v, bool boosted, float chance, float severity) {
+    const VesselSettings& set = c.settings[v];
+    float ch;
+    float sev;
+    int vectors = 0;
+    if (set.CriticalSettings.value() == 0) {
+        vectors = WholeNumberOf(set.CriticalSkill[1].text(), 0);
+        const int strategy = WholeNumberOf(set.CriticalSkill[3].text(), 0);
+        ch = 0.025f + (SkillPoints(1, vectors) * 2.0f) / 1800.0f;
+        sev = 0.5f + (SkillPoints(3, strategy) * 25.0f) / 5200.0f;
+        if (set.CriticalItem.index() >= 2) {
+            ch += 0.0092f;
+            sev += 0.092f;
+        }
+    } else {
+        ch = 0.045f;
+        sev = 0.75f;
+    }
+    if (boosted) sev += 0.1f;
+
+    const float excess = c.state.ExcessAccuracy[v];
+    ch += excess / 1000.0f;
+    sev += excess / 100.0f;
+
+    if (!RelativeMode(c)) {
+        for (int i = 1; i <= 3; ++i) {
+            const int mod = set.WeaponMod[i].index();
+            if (mod == 2) sev += 0.2f;
+            if (mod == 3) ch += 0.02f;
+        }
+    }
+
+    const int alpha = c.state.AttackPatternAlpha[v];
+    if (alpha > 0) {
+        const float skill = static_cast<float>(GetAttackPatternSkill(c, v));
+        switch (alpha) {
+        case 1:
+            ch += 0.012f + 0.00012f * skill;
+            sev += 0.12f + 0.0012f * skill;
+            break;
+        case 2:
+            ch += 0.016f + 0.00016f * skill;
+            sev += 0.16f + 0.0016f * skill;
+            break;
+        default:
+            ch += 0.02f + 0.0002f * skill;
+            sev += 0.2f + 0.002f * skill;
+            break;
+        }
+    }
+
+    ch += chance;
+    sev += severity;
+    if (vectors == kNoCriticalLevel) return 1.0f;
+    return ch * sev + 1.0f;
+}
+
+int GetRange(const Calculator& c, Vessel v) {
+    int index;
+    if (v == 1) {
+        index = c.main.TargetDistance[1].index();
+    } else {
+        const int own = c.main.TargetDistance[2].index();
+        index = own == 0 ? c.main.TargetDistance[1].index() : own - 1;
+    }
+    return std::max(index, 0);
+}
+
+float CalculateDPS(Calculator& c, int dualHeavyCannons, int dualCannons, int dualBeamBanks, int cannons, int beamArrays,
+                   int turrets, int shuttleBeamArrays, int power, int distance, Vessel v, bool noSkills) {
+    float beamSkill = 1.0f, cannonSkill = 1.0f, turretSkill = 1.0f;
+    if (!noSkills) {
+        beamSkill = BeamSkillModifier(c, v);
+        cannonSkill = CannonSkillModifier(c, v, false);
+        turretSkill = CannonSkillModifier(c, v, true);
+    }
+    const float beamRange = GetRangeMod(distance, 1);
+    const float cannonRange = GetRangeMod(distance, 2);
+    const int total =
+        dualHeavyCannons + dualCannons + dualBeamBanks + cannons + beamArrays + turrets + shuttleBeamArrays;
+
+    float crit = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
+    float critBoosted = CriticalMultiplier(c, v, true, 0.0f, 0.0f);
+    if (!RelativeMode(c)) {
+        crit = static_cast<float>(crit * 1.03375);
+        critBoosted = static_cast<float>(critBoosted * 1.03375);
+    }
+    const float shuttleModifier = shuttleBeamArrays > 0 ? ShuttleArrayModifier(c, v, shuttleBeamArrays) : 0.0f;
+
+    const float cannonMod = c.state.CannonModifier[v];
+    const float beamMod = c.state.BeamModifier[v];
+    const float resistance = c.state.ResistanceFactor[v];
+    const float accuracy = c.state.AccuracyFactor[v];
+
+    DPW d[8];
+    for (int k = 1; k <= 6; ++k)
+        d[k] = DPWCalc(c.state, power, k, total);
+    d[7] = DPWCalc(c.state, power, 5, total);
+
+    float result = 0.0f;
+    if (total == 1) {
+        float sum = Term(dualHeavyCannons, d[1].single, cannonRange, cannonSkill, cannonMod, critBoosted);
+        sum = sum + Term(dualCannons, d[2].single, cannonRange, cannonSkill, cannonMod, crit);
+        sum = sum + Term(dualBeamBanks, d[3].single, beamRange, beamSkill, beamMod, crit);
+        sum = sum + Term(cannons, d[4].single, cannonRange, cannonSkill, cannonMod, crit);
+        sum = sum + Term(beamArrays, d[5].single, beamRange, beamSkill, beamMod, crit);
+        sum = sum + Term(turrets, d[6].single, cannonRange, turretSkill, cannonMod, crit);
+        sum = sum + Term(shuttleBeamArrays, d[7].single, beamRange, beamSkill, shuttleModifier, crit);
+        sum = sum * resistance;
+        sum = sum * accuracy;
+        result = Round(sum, 3);
+    } else if (total >= 2) {
+        double sum = Term(dualHeavyCannons, d[1].dbl, cannonRange, cannonSkill, cannonMod, critBoosted);
+        sum = sum + Term(dualCannons, d[2].dbl, cannonRange, cannonSkill, cannonMod, crit);
+        sum = sum + Term(dualBeamBanks, d[3].dbl, beamRange, beamSkill, beamMod, crit);
+        sum = sum + Term(cannons, d[4].dbl, cannonRange, cannonSkill, cannonMod, crit);
+        sum = sum + Term(beamArrays, d[5].dbl, beamRange, beamSkill, beamMod, crit);
+        sum = sum + Term(turrets, d[6].dbl, cannonRange, turretSkill, cannonMod, crit);
+        sum = sum + Term(shuttleBeamArrays, d[7].dbl, beamRange, beamSkill, shuttleModifier, crit);
+        sum = sum * static_cast<double>(resistance);
+        sum = sum * static_cast<double>(accuracy);
+        result = static_cast<float>(Round(sum, 3));
+    }
+
+    // No test ever fired dual cannons of either kind among eight weapons.
+    if (total > 7 && (dualHeavyCannons > 0 || dualCannons > 0)) return -1.0f;
+    return result;
+}
 
 } // namespace vantorel
