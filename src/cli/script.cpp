@@ -23,6 +23,12 @@ struct ScriptError {
 
 [[noreturn]] void Fail(std::string message) { throw ScriptError{std::move(message)}; }
 
+// "a list", "an engine value".
+std::string Article(std::string_view noun) {
+    const bool vowel = !noun.empty() && std::string_view("aeiou").find(noun.front()) != std::string_view::npos;
+    return (vowel ? "an " : "a ") + std::string(noun);
+}
+
 bool IsBlank(char ch) { return ch == ' ' || ch == '\t' || ch == '\r'; }
 
 // A value as written: "quoted text", #row, or a bare word such as 0, 1 or 2.5.
@@ -231,7 +237,7 @@ class Runner {
         default:
             break;
         }
-        Fail(what + ": not " + wanted + " but a " + std::string(KindName(ref.kind())) + hint);
+        Fail(what + ": not " + wanted + " but " + Article(KindName(ref.kind())) + hint);
     }
 
     static int flagValue(const std::string& what, const std::optional<Value>& value) {
@@ -373,7 +379,7 @@ class Runner {
         case ValueKind::Window:
         case ValueKind::Control:
         case ValueKind::Line:
-            Fail(what + ": a " + std::string(KindName(ref.kind())) + " has no value to set");
+            Fail(what + ": " + Article(KindName(ref.kind())) + " has no value to set");
         }
     }
 

@@ -1,0 +1,95 @@
+#include "cli/json.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <limits>
+#include <string>
+
+namespace vantorel {
+namespace {
+
+TEST(Json, EscapesWhatJsonCannotHoldAsIs) {
+    struct Case {
+        const char* name;
+        std::string text;
+        std::string expected;
+    } cases[] = {
+        {"plain", "Beam Array", R"("Beam Array")"},
+        {"quote", R"(It's a "Close" button)", R"("It's a \"Close\" button")"},
+        {"backslash", R"(\Images\Alpha\)", R"("\\Images\\Alpha\\")"},
+        {"newline and tab", "a\nb\tc\r", R"("a\nb\tc\r")"},
+        {"other control characters", std::string("\x01\x1f\x7f", 3), R"("\u0001\u001f\u007f")"},
+        {"nul", std::string("a\0b", 3), R"("a\u0000b")"},
+        {"utf-8 passes through", "caf\xc3\xa9 \xe2\x86\x92", "\"caf\xc3\xa9 \xe2\x86\x92\""},
+        {"stray byte read as latin-1", "caf\xe9", R"("caf\u00e9")"},
+        {"cut sequence", "\xe2\x86", R"("\u00e2\u0086")"},
+        {"overlong form", "\xc0\xaf", R"("\u00c0\u00af")"},
+        {"surrogate", "\xed\xa0\x80", R"("\u00ed\u00a0\u0080")"},
+        {"trailing blank kept", "Shuttlecraft ", R"("Shuttlecraft ")"},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(JsonString(c.text), c.expected) << c.name;
+}
+
+TEST(Json, WritesSinglesAsTheShortestTextThatReadsBack) {
+    struct Case {
+        const char* name;
+        float x;
+        const char* expected;
+    } cases[] = {
+        {"whole", 100.0f, "100"},
+        {"a tenth", 0.1f, "0.1"},
+        {"three decimals", 282.664f, "282.664"},
+        {"negative, missing data", -1.0f, "-1"},
+        {"zero", 0.0f, "0"},
+        {"infinity", std::numeric_limits<float>::infinity(), "null"},
+        {"not a number", std::numeric_limits<float>::quiet_NaN(), "null"},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(JsonNumber(c.x), c.expected) << c.name;
+        if (std::string(c.expected) != "null") {
+            EXPECT_EQ(std::strtof(c.expected, nullptr), c.x) << c.name;
+        }
+    }
+    // A single widened to double has more digits than it needs.
+    EXPECT_EQ(JsonNumber(static_cast<double>(0.1f)), "0.10000000149011612");
+    EXPECT_EQ(JsonNumber(0.1), "0.1");
+}
+
+TEST(Json, MatchesNamesLikeAShellPattern) {
+    struct Case {
+        const char* pattern;
+        const char* name;
+        bool matches;
+    } cases[] = {
+        {"*", "Form1.Forward[1]", true},
+        {"Form1.Forward*", "Form1.Forward[1]", true},
+        {"Form1.Forward*", "Form1.ForwardWeaponlabel", true},
+        {"Form1.Forward*", "Form1.CForward[1]", false},
+        {"Form1.Forward[1]", "Form1.Forward[1]", true},
+        {"Form1.Forward[1]", "Form1.Forward[2]", false},
+        {"Form1.Forward[12]", "Form1.Forward[1]", false},
+        {"Form1.Forward[?]", "Form1.Forward[4]", true},
+        {"Form1.FiringArcDPS[?]", "Form1.FiringArcDPS[12]", false},
+        {"Form1.FiringArcDPS[*]", "Form1.FiringArcDPS[12]", true},
+        {"State.ArcDPS[*,1]", "State.ArcDPS[3,1]", true},
+        {"State.ArcDPS[*,1]", "State.ArcDPS[3,2]", false},
+        {"*DPS*", "Alpha.RelativeDPS", true},
+        {"*.Targets", "AlphaSkills.Targets", true},
+        {"*.Targets", "AlphaSkills.TargetsLabel", false},
+        {"Alpha", "AlphaSkills", false},
+        {"Alpha*", "AlphaSkills.Targets", true},
+        {"a*b*c", "aXbYbZc", true},
+        {"a*b*c", "aXbYcZ", false},
+        {"", "", true},
+        {"", "Form1", false},
+        {"**", "", true},
+        {"Form1.Note", "form1.note", false},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(GlobMatch(c.pattern, c.name), c.matches) << c.pattern << " ~ " << c.name;
+}
+
+} // namespace
+} // namespace vantorel

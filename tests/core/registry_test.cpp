@@ -1,0 +1,191 @@
+#include "engine/registry.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace vantorel {
+namespace {
+
+struct Span {
+    std::uintptr_t start = 0;
+    std::uintptr_t end = 0;
+    std::size_t align = 1;
+    std::string name;
+};
+
+Span SpanOf(const ControlRef& ref) {
+    return std::visit(
+        [&](auto* p) {
+            using T = std::remove_pointer_t<decltype(p)>;
+            const auto start = reinterpret_cast<std::uintptr_t>(p);
+            return Span{start, start + sizeof(T), alignof(T), ref.name};
+        },
+        ref.target);
+}
+
+std::uintptr_t AlignUp(std::uintptr_t at, std::size_t align) { return (at + align - 1) / align * align; }
+
+// The spans of the entries that lie inside [begin, end).
+std::vector<Span> SpansWithin(const ControlRegistry& registry, std::uintptr_t begin, std::uintptr_t end) {
+    std::vector<Span> spans;
+    for (const ControlRef& ref : registry.all()) {
+        const Span s = SpanOf(ref);
+        if (s.start >= begin && s.start < end) spans.push_back(s);
+    }
+    return spans;
+}
+
+// The table is written by hand, so a field left out would be missing from
+// the scripts and from the widget checks. Every byte from `from` to the end
+// of the record must be covered by an entry or be padding before the next.
+void ExpectCovered(std::vector<Span> spans, std::uintptr_t from, std::uintptr_t end, std::size_t align,
+                   const char* window) {
+    ASSERT_FALSE(spans.empty()) << window;
+    std::sort(spans.begin(), spans.end(), [](const Span& a, const Span& b) { return a.start < b.start; });
+    std::uintptr_t at = from;
+    for (const Span& s : spans) {
+        EXPECT_EQ(s.start, AlignUp(at, s.align)) << window << ": a field is missing before " << s.name;
+        at = std::max(at, s.end);
+    }
+    EXPECT_EQ(AlignUp(at, align), end) << window << ": a field is missing after " << spans.back().name;
+}
+
+template <typename Record>
+void ExpectCovered(const ControlRegistry& registry, const Record& record, const char* window, std::uintptr_t from = 0) {
+    const auto begin = reinterpret_cast<std::uintptr_t>(&record);
+    const auto end = begin + sizeof(Record);
+    ExpectCovered(SpansWithin(registry, begin, end), from ? from : begin, end, alignof(Record), window);
+}
+
+TEST(Registry, CoversEveryFieldOfEveryRecord) {
+    Calculator c;
+    const ControlRegistry registry(c);
+    ExpectCovered(registry, c.main, "Form1");
+    for (Vessel v = 1; v <= 2; ++v) {
+        // `vessel` is the record's own bookkeeping, not a control.
+        const auto afterVessel = reinterpret_cast<std::uintptr_t>(&c.settings[v].vessel) + sizeof(Vessel);
+        ExpectCovered(registry, c.settings[v], v == 1 ? "Alpha" : "Omega", afterVessel);
+        const auto afterSkillsVessel = reinterpret_cast<std::uintptr_t>(&c.skills[v].vessel) + sizeof(Vessel);
+        ExpectCovered(registry, c.skills[v], v == 1 ? "AlphaSkills" : "OmegaSkills", afterSkillsVessel);
+    }
+}
+
+TEST(Registry, CoversTheStateButTheUnusedBaseOfTheCoefficients) {
+    Calculator c;
+    const ControlRegistry registry(c);
+    const auto begin = reinterpret_cast<std::uintptr_t>(&c.state);
+    const auto end = begin + sizeof c.state;
+    const auto coefficients = reinterpret_cast<std::uintptr_t>(&c.state.DPWCoefficient);
+    const std::uintptr_t coefficientsEnd = coefficients + sizeof c.state.DPWCoefficient;
+    // Only [1..6][2..8][1..5] of the coefficients have names; count the
+    // array as one.
+    std::vector<Span> spans;
+    for (const Span& s : SpansWithin(registry, begin, end)) {
+        if (s.start < coefficients || s.start >= coefficientsEnd) spans.push_back(s);
+    }
+    spans.push_back(Span{coefficients, coefficientsEnd, alignof(double), "State.DPWCoefficient"});
+    ExpectCovered(spans, begin, end, alignof(CalculatorState), "State");
+    EXPECT_EQ(SpansWithin(registry, coefficients, coefficientsEnd).size(), 6u * 7u * 5u);
+}
+
+TEST(Registry, NamesAreUniqueAndPointAtDistinctFields) {
+    Calculator c;
+    const ControlRegistry registry(c);
+    std::set<std::string> names;
+    std::set<std::uintptr_t> places;
+    for (const ControlRef& ref : registry.all()) {
+        EXPECT_TRUE(names.insert(ref.name).second) << "twice: " << ref.name;
+        EXPECT_TRUE(places.insert(SpanOf(ref).start).second) << "shares its field: " << ref.name;
+    }
+}
+
+TEST(Registry, FindsFieldsByTheProgramsNamesAndIndexBases) {
+    Calculator c;
+    const ControlRegistry registry(c);
+    struct Case {
+        const char* name;
+        const void* field;
+        ValueKind kind;
+    } cases[] = {
+        {"Form1", &c.main.Form1, ValueKind::Window},
+        {"Form1.Contents", &c.main.Contents, ValueKind::Control},
+        {"Form1.Forward[1]", &c.main.Forward[1], ValueKind::List},
+        {"Form1.CRear[4]", &c.main.CRear[4], ValueKind::List},
+        {"Form1.ShipClass[2]", &c.main.ShipClass[2], ValueKind::List},
+        {"Form1.FiringArcDPS[0]", &c.main.FiringArcDPS[0], ValueKind::Label},
+        {"Form1.CFiringArcDPS[13]", &c.main.CFiringArcDPS[13], ValueKind::Label},
+        {"Form1.CFiringArc[11]", &c.main.CFiringArc[11], ValueKind::Picture},
+        {"Form1.Compare", &c.main.Compare, ValueKind::Button},
+        {"Form1.Cline", &c.main.Cline, ValueKind::Line},
+        {"Form1.HScroll1", &c.main.HScroll1, ValueKind::ScrollBar},
+        {"Form1.ShipImageId[2]", &c.main.ShipImageId[2], ValueKind::String},
+        {"Alpha", &c.settings[1].Form, ValueKind::Window},
+        {"Alpha.RelativeDPS", &c.settings[1].RelativeDPS, ValueKind::Flag},
+        {"Alpha.Help[0]", &c.settings[1].Help[0], ValueKind::Button},
+        {"Omega.WeaponSkill[8]", &c.settings[2].WeaponSkill[8], ValueKind::Text},
+        {"Omega.VScroll1", &c.settings[2].VScroll1, ValueKind::ScrollBar},
+        {"AlphaSkills.Targets", &c.skills[1].Targets, ValueKind::Text},
+        {"OmegaSkills.SameAsAlpha", &c.skills[2].SameAsAlpha, ValueKind::Flag},
+        {"State.Comparing", &c.state.Comparing, ValueKind::Int},
+        {"State.ArcDPS[0,1]", &c.state.ArcDPS[0][1], ValueKind::Single},
+        {"State.ArcDPS[7,2]", &c.state.ArcDPS[7][2], ValueKind::Single},
+        {"State.ArcDPS[ 7 , 2 ]", &c.state.ArcDPS[7][2], ValueKind::Single},
+        {"State.WeaponCount[11,2]", &c.state.WeaponCount[11][2], ValueKind::Int16},
+        {"State.ArcShown[13]", &c.state.ArcShown[13], ValueKind::Bool},
+        {"State.DPWCoefficient[6,8,5]", &c.state.DPWCoefficient[6][8][5], ValueKind::Double},
+        {"State.AttackPatternOmega[2]", &c.state.AttackPatternOmega[2], ValueKind::Int16},
+    };
+    for (const Case& k : cases) {
+        const ControlRef* ref = registry.find(k.name);
+        ASSERT_NE(ref, nullptr) << k.name;
+        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(k.field), SpanOf(*ref).start) << k.name;
+        EXPECT_EQ(ref->kind(), k.kind) << k.name;
+    }
+}
+
+TEST(Registry, KnowsWhichWindowAControlStandsOn) {
+    Calculator c;
+    const ControlRegistry registry(c);
+    struct Case {
+        const char* name;
+        const Window* form;
+    } cases[] = {
+        {"Form1.Reset", &c.main.Form1},           {"Omega.RelativeDPS", &c.settings[2].Form},
+        {"AlphaSkills.Close", &c.skills[1].Form}, {"OmegaSkills", &c.skills[2].Form},
+        {"State.BeamModifier[1]", nullptr},       {"Form1.ShipImageId[1]", nullptr},
+    };
+    for (const Case& k : cases) {
+        const ControlRef* ref = registry.find(k.name);
+        ASSERT_NE(ref, nullptr) << k.name;
+        EXPECT_EQ(ref->form, k.form) << k.name;
+    }
+}
+
+TEST(Registry, TellsAWrongIndexFromAWrongName) {
+    Calculator c;
+    const ControlRegistry registry(c);
+    struct Case {
+        const char* name;
+        bool found;
+        bool array;
+    } cases[] = {
+        {"Form1.Forward[0]", false, true},     {"Form1.Forward[5]", false, true},
+        {"Form1.FiringArc[12]", false, true},  {"Alpha.Help[5]", false, true},
+        {"State.ArcDPS[8,1]", false, true},    {"State.ArcDPS[0,3]", false, true},
+        {"Form1.Simplified[1]", false, false}, {"Form1.Foward[1]", false, false},
+        {"form1.Forward[1]", false, false},    {"State.DPWCoefficient[1,1,1]", false, true},
+    };
+    for (const Case& k : cases) {
+        EXPECT_EQ(registry.find(k.name) != nullptr, k.found) << k.name;
+        const std::string name(k.name);
+        EXPECT_EQ(registry.isArray(name.substr(0, name.find('['))), k.array) << k.name;
+    }
+}
+
+} // namespace
+} // namespace vantorel
