@@ -4,6 +4,7 @@
 #include "engine/calculator.h"
 #include "engine/registry.h"
 
+#include <algorithm>
 #include <charconv>
 #include <exception>
 #include <limits>
@@ -84,6 +85,8 @@ class LineReader {
         return w;
     }
 
+    bool startsQuoted() { return !atEnd() && m_rest.front() == '"'; }
+
     std::optional<Value> value() {
         skipBlanks();
         if (m_rest.empty()) return std::nullopt;
@@ -159,6 +162,7 @@ class Runner {
 
         const std::string name = in.name();
         if (name.empty()) Fail(verb + ": the name of a control is missing");
+        closed(name);
         const ControlRef& ref = lookup(name);
         const std::string what = verb + " " + ref.name;
         std::optional<Value> value = in.value();
@@ -182,6 +186,12 @@ class Runner {
     }
 
   private:
+    // An open bracket would swallow the rest of the line into the name.
+    static void closed(const std::string& name) {
+        if (std::count(name.begin(), name.end(), '[') != std::count(name.begin(), name.end(), ']'))
+            Fail("malformed name " + name + ": a bracket is not closed");
+    }
+
     const ControlRef& lookup(const std::string& written) {
         if (const ControlRef* ref = m_registry.find(written)) return *ref;
         const std::string name = NormalName(written);
@@ -385,9 +395,11 @@ class Runner {
 
     void print(LineReader& in) {
         std::string pattern = "*";
-        if (std::optional<Value> v = in.value()) {
-            if (v->form == Value::Form::Row) Fail("print: malformed pattern " + v->written());
-            pattern = v->text;
+        if (in.startsQuoted()) {
+            pattern = in.value()->text;
+        } else if (!in.atEnd()) {
+            pattern = NormalName(in.name());
+            closed(pattern);
         }
         in.expectEnd("print " + pattern);
         std::vector<const ControlRef*> refs;

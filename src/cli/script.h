@@ -10,7 +10,9 @@
 //   set CONTROL VALUE                 assign as the program's code does: no click, no checks
 //   print [GLOB]                      one JSON object of the matching names
 // The first four are a user's actions, refused on a control that is hidden or
-// disabled or whose window is hidden.
+// disabled or whose window is hidden. In a print pattern `*` and `?` are
+// wild, and brackets match themselves, since every indexed name has them:
+// `print State.ArcDPS[*,2]` prints Omega's rows.
 
 #include <iosfwd>
 #include <string>

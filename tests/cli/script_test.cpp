@@ -260,6 +260,10 @@ TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
          {},
          "print Form1.Nothing*",
          "line 1: print Form1.Nothing*: no control or engine value matches"},
+        {"unclosed bracket",
+         {},
+         "select Form1.Forward[1 \"Beam Array\"",
+         "line 1: malformed name Form1.Forward[1 \"Beam Array\": a bracket is not closed"},
         {"print: text after the pattern",
          {},
          "print Form1.Note Form1.Help",
@@ -297,15 +301,18 @@ TEST(Script, WithoutPrintWritesTheWholeStateOnce) {
 
 TEST(Script, EachPrintWritesOneObjectOfTheMatchingNamesInRecordOrder) {
     Calculator c;
-    const Result r = RunOn(c, "print Form1.Forward*\nprint State.ArcDPS[?,2]\nprint OmegaSkills.Targets\n");
+    const Result r = RunOn(c, "print Form1.Forward*\nprint State.ArcDPS[?,2]\nprint OmegaSkills.Targets\n"
+                              "print State.ArcDPS[ 0, 1 ]\nprint \"Form1.Note\"\n");
     const std::vector<Members> objects = Objects(r);
-    ASSERT_EQ(objects.size(), 3u);
+    ASSERT_EQ(objects.size(), 5u);
     EXPECT_EQ(Keys(objects[0]), (std::vector<std::string>{"Form1.Forward[1]", "Form1.Forward[2]", "Form1.Forward[3]",
                                                           "Form1.Forward[4]", "Form1.ForwardWeaponlabel"}));
     EXPECT_EQ(Keys(objects[1]), (std::vector<std::string>{"State.ArcDPS[0,2]", "State.ArcDPS[1,2]", "State.ArcDPS[2,2]",
                                                           "State.ArcDPS[3,2]", "State.ArcDPS[4,2]", "State.ArcDPS[5,2]",
                                                           "State.ArcDPS[6,2]", "State.ArcDPS[7,2]"}));
     EXPECT_EQ(Keys(objects[2]), (std::vector<std::string>{"OmegaSkills.Targets"}));
+    EXPECT_EQ(Keys(objects[3]), (std::vector<std::string>{"State.ArcDPS[0,1]"}));
+    EXPECT_EQ(Keys(objects[4]), (std::vector<std::string>{"Form1.Note"}));
 }
 
 TEST(Script, PrintsEachKindInItsOwnForm) {
