@@ -1,10 +1,192 @@
 #include "engine/calculator.h"
+#include "engine/numbers.h"
+
+#include <algorithm>
+#include <string_view>
 
 namespace vantorel {
 
-// Not yet built: answers that keep the rest running.
-float CalculateBurst(Calculator&, int, int, int, int, int, Vessel) { return 0.0f; }
-std::string BurstToolTip(Calculator&, int, int, int, int, int, Vessel) { return {}; }
-float GetTorpedoSkill(const Calculator&, Vessel) { return 1.0f; }
+namespace {
+
+// Everything here is single precision, constants included.
+constexpr float kPlasmaBurn = 1.0825f;    // 8.25% on top, the burn at its average
+constexpr float kHeavyPlasmaBurn = 1.16f; // 16% on each target of a Heavy Plasma Torpedo
+constexpr float kBurnShare = 0.0825f;
+constexpr float kHeavyBurnShare = 0.16f;
+constexpr float kBurnChance = 0.33f;
+constexpr float kMinesPerTorpedo = 1.25f;
+constexpr float kOverloadPower = 0.8f;
+constexpr float kDamageToDPW = 0.8889786f;
+constexpr float kMineFactor[4] = {1, 1.6f, 2.4f, 3.2f};
+constexpr float kOverloadFactor[4] = {0, 6.041f, 7.253f, 8.467f};
+
+bool Relative(const Calculator& c) { return c.Alpha().RelativeDPS.value() != 0; }
+
+float MineFactor(int level) { return level >= 0 && level <= 3 ? kMineFactor[level] : 1.0f; }
+
+// The torpedo type without its trailing blank: "Quantum", "Plasma", ...
+std::string TorpedoType(const Calculator& c, Vessel v) {
+    std::string type = GetDamageType(c, v, 2);
+    while (!type.empty() && type.back() == ' ')
+        type.pop_back();
+    return type;
+}
+
+// The one weapon that overloads: the first present of dual beam bank, beam
+// array, shuttle beam array. 0 for none.
+int OverloadWeapon(int dualBeamBanks, int beamArrays, int shuttleBeamArrays) {
+    if (dualBeamBanks > 0) return 1;
+    if (beamArrays > 0) return 2;
+    if (shuttleBeamArrays > 0) return 3;
+    return 0;
+}
+
+// Overload term before the last rounding: the plain DPS of that one weapon.
+float OverloadTerm(Calculator& c, int weapon, Vessel v) {
+    const int power = GetPowerLevel(c, v, true);
+    const int distance = GetRange(c, v);
+    const float dps = CalculateDPS(c, 0, 0, weapon == 1 ? 1 : 0, 0, weapon == 2 ? 1 : 0, 0, weapon == 3 ? 1 : 0, power,
+                                   distance, v, true);
+    const CalculatorState& s = c.state;
+    const float factor = kOverloadFactor[std::clamp<int>(s.BeamOverload[v], 0, 3)];
+    // Applied a second time on purpose: the weapon's DPS holds both already.
+    return ((dps * factor) / kOverloadPower / kDamageToDPW) * s.ResistanceFactor[v] * s.AccuracyFactor[v];
+}
+
+float MineTerm(const Calculator& c, float critical, Vessel v) {
+    const CalculatorState& s = c.state;
+    const float m = MineFactor(s.MineSkill[v]);
+    if (Relative(c))
+        return BaseProjectileDamage(c, v) * kMinesPerTorpedo * critical * s.ResistanceFactor[v] * s.AccuracyFactor[v] *
+               m;
+    return m * s.MineDamage[v] * critical * s.ResistanceFactor[v] * s.AccuracyFactor[v];
+}
+
+float TorpedoSkillOrOne(const Calculator& c, Vessel v) {
+    const CalculatorState& s = c.state;
+    return (s.TorpedoHighYield[v] > 0 || s.TorpedoSpread[v] > 0) ? GetTorpedoSkill(c, v) : 1.0f;
+}
+
+std::string TargetsText(int n) { return n == 1 ? std::string(" (1 Target):") : " (" + PlainText(n) + " Targets):"; }
+
+} // namespace
+
+float GetTorpedoSkill(const Calculator& c, Vessel v) {
+    struct Row {
+        std::string_view type;
+        float highYield[3];
+        float spread[3];
+    };
+    static constexpr Row kRows[] = {
+        {"Quantum", {2.227f, 2.585f, 2.947f}, {1.893f, 2.198f, 2.506f}},
+        {"Photon", {2.167f, 2.565f, 2.97f}, {1.843f, 2.182f, 2.524f}},
+        {"Plasma", {2.594f, 3.0f, 3.405f}, {1.832f, 2.169f, 2.51f}},
+        {"Chroniton", {1.723f, 1.97f, 2.219f}, {1.446f, 1.674f, 1.886f}},
+        {"Transphasic", {1.723f, 1.97f, 2.219f}, {1.464f, 1.674f, 1.886f}},
+    };
+    const CalculatorState& s = c.state;
+    const std::string type = TorpedoType(c, v);
+    const Row* row = nullptr;
+    for (const Row& r : kRows)
+        if (r.type == type) row = &r;
+    // Tricobalt, or no type at all: no skill multiplies it.
+    if (row == nullptr) return 1.0f;
+
+    const int highYield = s.TorpedoHighYield[v];
+    if (highYield >= 1 && highYield <= 3) return row->highYield[highYield - 1];
+    const int spread = s.TorpedoSpread[v];
+    if (spread >= 1 && spread <= 3) {
+        const int targets = std::min<int>(s.SkillTargets[v], 3 * spread);
+        return row->spread[spread - 1] * static_cast<float>(targets);
+    }
+    return 1.0f;
+}
+
+float CalculateBurst(Calculator& c, int torpedoes, int mines, int dualBeamBanks, int beamArrays, int shuttleBeamArrays,
+                     Vessel v) {
+    const CalculatorState& s = c.state;
+    float sum = 0.0f;
+    const float critical = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
+
+    if (torpedoes > 0) {
+        const float t = TorpedoSkillOrOne(c, v);
+        float f = 1.0f;
+        if (TorpedoType(c, v) == "Plasma")
+            f = s.TorpedoHighYield[v] > 0 ? static_cast<float>(s.SkillTargets[v]) * kHeavyPlasmaBurn : kPlasmaBurn;
+        if (Relative(c))
+            sum = BaseProjectileDamage(c, v) * critical * f * s.ResistanceFactor[v] * s.AccuracyFactor[v] * t;
+        else
+            sum = t * s.TorpedoDamage[v] * critical * f * s.ResistanceFactor[v] * s.AccuracyFactor[v];
+    }
+    if (mines > 0) sum += MineTerm(c, critical, v);
+    if (s.BeamOverload[v] > 0) {
+        const int weapon = OverloadWeapon(dualBeamBanks, beamArrays, shuttleBeamArrays);
+        if (weapon != 0) sum += OverloadTerm(c, weapon, v);
+    }
+    return Round(sum, 3);
+}
+
+std::string BurstToolTip(Calculator& c, int torpedoes, int mines, int dualBeamBanks, int beamArrays,
+                         int shuttleBeamArrays, Vessel v) {
+    const CalculatorState& s = c.state;
+    const float critical = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
+    std::string text;
+    auto append = [&text](const std::string& part) {
+        if (!text.empty()) text += ", ";
+        text += part;
+    };
+
+    if (torpedoes > 0) {
+        const std::string prefix = GetDamageType(c, v, 2);
+        const bool plasma = TorpedoType(c, v) == "Plasma";
+        const float t = TorpedoSkillOrOne(c, v);
+        float d = Relative(c) ? Round(BaseProjectileDamage(c, v) * t * critical, 3)
+                              : Round(t * s.TorpedoDamage[v] * critical, 3);
+        d = d * s.ResistanceFactor[v] * s.AccuracyFactor[v];
+        const int highYield = s.TorpedoHighYield[v];
+        const int spread = s.TorpedoSpread[v];
+        // The targets that a spread can reach.
+        const int spreadTargets = std::min<int>(s.SkillTargets[v], spread + 1);
+
+        std::string part;
+        if (plasma && highYield > 0) {
+            const int n = s.SkillTargets[v];
+            d = static_cast<float>(n) * d * s.ResistanceFactor[v] * s.AccuracyFactor[v];
+            const float burn = Round(d * kHeavyBurnShare, 3);
+            part = "Heavy Plasma Torpedo" + SignedText(highYield) + TargetsText(n) + SignedText(d);
+            part += ", Plasma Burn" + TargetsText(n) + SignedText(burn);
+        } else {
+            if (highYield > 0)
+                part = prefix + "Torpedo Salvo" + SignedText(highYield) + ":";
+            else if (spread > 0)
+                part = prefix + "Torpedo Spread" + SignedText(spread) + TargetsText(spreadTargets);
+            else
+                part = prefix + "Torpedo:";
+            part += SignedText(d);
+            if (plasma) {
+                const float burn = Round(d * kBurnShare, 3) * s.ResistanceFactor[v] * s.AccuracyFactor[v];
+                part += ", Plasma Burn (33% Chance):" + SignedText(Round(burn / kBurnChance, 3)) + " (" +
+                        PlainText(burn) + ")";
+            }
+        }
+        append(part);
+    }
+
+    if (mines > 0) {
+        const int level = s.MineSkill[v];
+        const std::string name = level > 0 ? "Mine Dispersal Pattern" + SignedText(level) + ":" : "Mine Cluster:";
+        append(name + SignedText(MineTerm(c, critical, v)));
+    }
+
+    const int overload = s.BeamOverload[v];
+    if (overload > 0) {
+        const int weapon = OverloadWeapon(dualBeamBanks, beamArrays, shuttleBeamArrays);
+        static const char* const kNames[4] = {"", "Dual Beam Bank Overload", "Beam Array Overload",
+                                              "Shuttle Beam Array Overload"};
+        if (weapon != 0)
+            append(kNames[weapon] + SignedText(overload) + ":" + SignedText(Round(OverloadTerm(c, weapon, v), 3)));
+    }
+    return text;
+}
 
 } // namespace vantorel

@@ -1,12 +1,281 @@
 #include "engine/calculator.h"
+#include "engine/numbers.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace vantorel {
 
-// Not yet built: answers that keep the rest running.
-void ModifiedDPS(Calculator&, Vessel) {}
-void ResetModifier(Calculator&) {}
-float WeaponSkillBonus(const Calculator&, int, Vessel) { return 0.0f; }
-float ConsoleBonus(const Calculator&, int, Vessel) { return 0.0f; }
-float BaseProjectileDamage(const Calculator&, Vessel) { return 0.0f; }
+namespace {
+
+bool Relative(const Calculator& c) { return c.Alpha().RelativeDPS.value() != 0; }
+
+// Turns the damage of the reference weapon, per 50 points, into the factor on
+// the tested DPW. A single, like every value of this file unless said.
+constexpr float kDamageToDPW = 0.8889786f;
+
+// Console bonus in percent by power step (rarity + mark); steps 1..14.
+constexpr float kConsoleStep[15] = {0, 3.8f, 5.6f, 7.5f, 9.4f, 11, 13, 15, 17, 19, 21, 22, 24, 26, 28};
+
+constexpr int kDmgMod = 4;
+
+// Skill level from a weapon skill box: a typed "7.9" is level 7.
+int TruncatedLevel(const Text& box) {
+    const auto value = NumericValue(box.text());
+    if (!value) return 0;
+    const double whole = std::trunc(*value);
+    if (whole < -32768.0 || whole > 32767.0) return 0;
+    return static_cast<int>(whole);
+}
+
+// The pieces of one displayed box, in the order of its tooltip.
+template <typename T> struct Pieces { T base, mark, skill, console, accolade, damage, rarity, alpha, omega, team; };
+
+struct BreakdownInfo {
+    int damageMods; // count of "[Dmg]" mods
+    float rarityMods;
+    int alphaLevel, omegaLevel, teamLevel;
+};
+
+// Writes caption and breakdown of one box. The factor's type matters: the
+// fractional factors are doubles, so their products are formed in double.
+template <typename T, typename F>
+void FillBox(Label& box, float total, F f, const Pieces<T>& p, const BreakdownInfo& info) {
+    auto number = [f](T part) { return SignedText(Round(part * f, 1)); };
+    std::string tip;
+    tip.reserve(200);
+    tip += "Base Damage:" + number(p.base);
+    tip += ", Mark Bonus:" + number(p.mark);
+    tip += ", Skill Bonus: " + number(p.skill);
+    tip += ", Console Bonus: " + number(p.console);
+    tip += ", accolade bonus: " + number(p.accolade);
+    if (info.damageMods > 0) {
+        tip += ", Weapon Mod [Dmg]";
+        if (info.damageMods > 1) tip += 'x' + PlainText(info.damageMods);
+        tip += ':' + number(p.damage);
+    }
+    // Shown on both vessels: the totals of both hold the rarity bonus, and a
+    // breakdown whose parts do not add up to its caption explains nothing.
+    if (info.rarityMods > 0) {
+        const char* name = info.rarityMods == 0.25f ? "Unc." : info.rarityMods == 0.5f ? "Rare" : "V.Rare";
+        tip += ", Weapon Rarity (";
+        tip += name;
+        tip += "):" + number(p.rarity);
+    }
+    if (info.alphaLevel > 0) tip += ", Attack Pattern Alpha" + SignedText(info.alphaLevel) + ':' + number(p.alpha);
+    if (info.omegaLevel > 0) tip += ", Attack Pattern Omega" + SignedText(info.omegaLevel) + ':' + number(p.omega);
+    if (info.teamLevel > 0) tip += ", Tactical Team" + SignedText(info.teamLevel) + ':' + number(p.team);
+
+    box.setCaption(PlainText(Round(total * f, 0)));
+    box.setTooltip(std::move(tip));
+}
+
+} // namespace
+
+float WeaponSkillBonus(const Calculator& c, int kind, Vessel v) {
+    // Per kind: the Lieutenant, Commander and Lieutenant Commander skill boxes.
+    static constexpr int kFields[5][3] = {{0, 0, 0}, {1, 4, 2}, {1, 4, 3}, {5, 8, 7}, {5, 8, 6}};
+    if (kind < 1 || kind > 4) return 0.0f;
+    const auto& skill = c.settings[v].WeaponSkill;
+    return SkillPoints(1, TruncatedLevel(skill[kFields[kind][0]])) +
+           SkillPoints(3, TruncatedLevel(skill[kFields[kind][1]])) +
+           SkillPoints(2, TruncatedLevel(skill[kFields[kind][2]]));
+}
+
+float ConsoleBonus(const Calculator& c, int kind, Vessel v) {
+    // Per kind: the console for that weapon and the one for its damage type.
+    static constexpr int kConsoles[5][2] = {{-2, -2}, {1, 3}, {2, 3}, {4, 6}, {5, 6}};
+    if (kind < 1 || kind > 4) return 0.0f;
+    const VesselSettings& s = c.settings[v];
+    float bonus = 0.0f;
+    for (int i = 1; i <= 4; ++i) {
+        if (s.TacticalConsoleEquipped[i].value() != 1) continue;
+        const int console = s.TacticalConsole[i].index();
+        if (console != kConsoles[kind][0] && console != kConsoles[kind][1]) continue;
+        int mark = s.TacticalConsoleMark[i].index();
+        if (mark == 0) mark = s.TacticalConsoleMark[i].count() - 1; // "Max": the top mark the rank offers
+        const int step = s.TacticalConsoleRarity[i].index() + mark;
+        if (step >= 1 && step <= 14) bonus += kConsoleStep[step];
+    }
+    return bonus;
+}
+
+float BaseProjectileDamage(const Calculator& c, Vessel v) {
+    // Relative mode keeps projectiles in the unit of the beam array tests.
+    static constexpr float kRelative[6] = {950.53f, 1056.691f, 745.941f, 813.786f, 687.587f, 4607.82f};
+    static constexpr float kActual[6] = {1352, 1503, 1061, 1157.5f, 978, 6554};
+    const int type = c.settings[v].WeaponType[2].index();
+    if (type < 0 || type > 5) return 0.0f;
+    return Relative(c) ? kRelative[type] : kActual[type];
+}
+
+void ResetModifier(Calculator& c) {
+    for (Vessel v = 1; v <= 2; ++v) {
+        CalculatorState& s = c.state;
+        s.BeamModifier[v] = 1.0f;
+        s.CannonModifier[v] = 1.0f;
+        s.TorpedoDamage[v] = 1.0f;
+        s.MineDamage[v] = 1.0f;
+        for (int i = 1; i <= 7; ++i) {
+            c.settings[v].CalculatedWeaponDPS[i].setCaption("");
+            c.settings[v].CalculatedWeaponDPS[i].setTooltip("");
+        }
+    }
+    c.Alpha().MatchConsole.setValue(1);
+    for (Vessel v = 1; v <= 2; ++v)
+        for (int i = 1; i <= 4; ++i)
+            c.settings[v].TacticalConsoleEquipped[i].setValue(1);
+    ShipControl(c);
+}
+
+void ModifiedDPS(Calculator& c, Vessel v) {
+    if ((v == 2 && c.state.Comparing == 0) || Relative(c)) return;
+    const VesselSettings& settings = c.settings[v];
+    CalculatorState& st = c.state;
+
+    float energyAccolade = settings.WeaponAccolade[1].value() == 1 ? 1.6f : 0.0f;
+    const float projectileAccolade = settings.WeaponAccolade[2].value() == 1 ? 0.02f : 0.0f;
+
+    const int team = st.TacticalTeam[v];
+    static constexpr float kTeamProjectile[4] = {0, 18, 24, 30};
+    static constexpr float kTeamEnergy[4] = {0, 14.4f, 19.2f, 24};
+    float teamProjectile = team >= 1 && team <= 3 ? kTeamProjectile[team] : 0.0f;
+    float teamEnergy = team >= 1 && team <= 3 ? kTeamEnergy[team] : 0.0f;
+
+    const int alphaLevel = st.AttackPatternAlpha[v];
+    const int omegaLevel = st.AttackPatternOmega[v];
+    double alphaFraction = 0.0;
+    double omegaFraction = 0.0;
+    if (alphaLevel > 0 || omegaLevel > 0) {
+        const double skill = GetAttackPatternSkill(c, v);
+        const double skill48 = std::min(skill, 48.0);
+        switch (alphaLevel) {
+        case 1:
+            alphaFraction = 0.18 + 0.0018 * skill48;
+            break;
+        case 2:
+            alphaFraction = 0.24 + 0.0024 * skill;
+            break;
+        case 3:
+            alphaFraction = 0.3 + 0.003 * skill;
+            break;
+        default:
+            break;
+        }
+        switch (omegaLevel) {
+        case 1:
+            omegaFraction = 0.15 + 0.0015 * skill;
+            break;
+        case 2:
+            omegaFraction = 0.2 + 0.002 * skill;
+            break;
+        case 3:
+            omegaFraction = 0.25 + 0.0025 * skill;
+            break;
+        default:
+            break;
+        }
+    }
+    float alphaEnergy = static_cast<float>(alphaFraction * 80);
+    float omegaEnergy = static_cast<float>(omegaFraction * 80);
+
+    float skillBeam = static_cast<float>(WeaponSkillBonus(c, 1, v) * 0.8);
+    float consoleBeam = static_cast<float>(ConsoleBonus(c, 1, v) * 0.8);
+    float skillCannon = static_cast<float>(WeaponSkillBonus(c, 2, v) * 0.8);
+    float consoleCannon = static_cast<float>(ConsoleBonus(c, 2, v) * 0.8);
+    float skillTorpedo = WeaponSkillBonus(c, 3, v);
+    float consoleTorpedo = ConsoleBonus(c, 3, v);
+    float skillMine = WeaponSkillBonus(c, 4, v);
+    float consoleMine = ConsoleBonus(c, 4, v);
+
+    const int mark = GetMark(c, v);
+
+    // One "[Dmg]" mod is worth half a mark on Alpha and a whole mark on Omega.
+    float damageMods = 0.0f;
+    float rarityMods = 0.0f;
+    int dmgCount = 0;
+    for (int i = 1; i <= 3; ++i) {
+        const int mod = settings.WeaponMod[i].index();
+        if (mod == kDmgMod) {
+            damageMods += v == 1 ? 0.5f : 1.0f;
+            ++dmgCount;
+        }
+        if (mod > 0) rarityMods += 0.25f;
+    }
+
+    float base = 80.0f;
+    float markBonus = static_cast<float>(mark * 8);
+    float damageBonus = damageMods * 8;
+    float rarityBonus = rarityMods * 8;
+
+    // The totals add in double; every part is a single.
+    float cannonTotal =
+        static_cast<float>(static_cast<double>(skillCannon) + consoleCannon + markBonus + base + energyAccolade +
+                           damageBonus + rarityBonus + teamEnergy + omegaEnergy + alphaEnergy);
+    float beamTotal =
+        static_cast<float>(static_cast<double>(consoleBeam) + skillBeam + markBonus + base + energyAccolade +
+                           damageBonus + rarityBonus + teamEnergy + omegaEnergy + alphaEnergy);
+
+    st.CannonModifier[v] = (cannonTotal / 50) * kDamageToDPW;
+    st.BeamModifier[v] = (beamTotal / 50) * kDamageToDPW;
+
+    const float projectileBase = BaseProjectileDamage(c, v);
+    const float accoladeShare = projectileAccolade * projectileBase;
+    const float damageShare = (projectileBase / 10) * damageMods;
+    const float rarityShare = (projectileBase / 10) * rarityMods;
+    const float markShare = (projectileBase / 10) * static_cast<float>(mark);
+    skillMine = (skillMine * projectileBase) / 100;
+    consoleMine = (consoleMine * projectileBase) / 100;
+    skillTorpedo = (skillTorpedo * projectileBase) / 100;
+    consoleTorpedo = (consoleTorpedo * projectileBase) / 100;
+    teamProjectile = (teamProjectile * projectileBase) / 100;
+    const float alphaShare = static_cast<float>(alphaFraction * projectileBase);
+    const float omegaShare = static_cast<float>(omegaFraction * projectileBase);
+
+    // Sums of singles: every partial sum is a single.
+    float torpedo = consoleTorpedo;
+    for (float part : {skillTorpedo, markShare, projectileBase, accoladeShare, damageShare, rarityShare, teamProjectile,
+                       omegaShare, alphaShare})
+        torpedo += part;
+    st.TorpedoDamage[v] = torpedo;
+    float mine = consoleMine;
+    for (float part : {skillMine, markShare, projectileBase, accoladeShare, damageShare, rarityShare, teamProjectile,
+                       omegaShare, alphaShare})
+        mine += part;
+    st.MineDamage[v] = mine * 1.25f;
+
+    // What the game's tooltip shows depends on weapon power; the modifiers
+    // above do not, since the DPW curves carry the power already.
+    const int power = GetPowerLevel(c, v, true);
+    for (float* value : {&base, &energyAccolade, &markBonus, &skillBeam, &consoleBeam, &skillCannon, &consoleCannon,
+                         &teamEnergy, &beamTotal, &cannonTotal, &damageBonus, &rarityBonus, &omegaEnergy, &alphaEnergy})
+        *value = (static_cast<float>(power) * *value) / 50;
+
+    VesselSettings& out = c.settings[v];
+    out.DisplayedDPSLabel[1].setCaption("Displayed DPS (" + PlainText(power) + " Weapon Power)");
+
+    const BreakdownInfo info{dmgCount, rarityMods, alphaLevel, omegaLevel, team};
+    const Pieces<float> cannon{base,        markBonus,   skillCannon, consoleCannon, energyAccolade,
+                               damageBonus, rarityBonus, alphaEnergy, omegaEnergy,   teamEnergy};
+    const Pieces<float> beam{base,        markBonus,   skillBeam,   consoleBeam, energyAccolade,
+                             damageBonus, rarityBonus, alphaEnergy, omegaEnergy, teamEnergy};
+    FillBox(out.CalculatedWeaponDPS[1], cannonTotal, 1.45, cannon, info);
+    FillBox(out.CalculatedWeaponDPS[2], beamTotal, 1.3, beam, info);
+    FillBox(out.CalculatedWeaponDPS[3], cannonTotal, 1.2, cannon, info);
+    FillBox(out.CalculatedWeaponDPS[4], beamTotal, 1, beam, info);
+    FillBox(out.CalculatedWeaponDPS[5], cannonTotal, 0.75, cannon, info);
+
+    const Pieces<float> torpedoPieces{projectileBase, markShare,   skillTorpedo, consoleTorpedo, accoladeShare,
+                                      damageShare,    rarityShare, alphaShare,   omegaShare,     teamProjectile};
+    FillBox(out.CalculatedWeaponDPS[6], st.TorpedoDamage[v], 1, torpedoPieces, info);
+    // The mine total carries a factor 1.25, so its pieces do too.
+    auto mines = [](float x) { return x * 1.25; };
+    const Pieces<double> minePieces{mines(projectileBase), mines(markShare),     mines(skillMine),   mines(consoleMine),
+                                    mines(accoladeShare),  mines(damageShare),   mines(rarityShare), mines(alphaShare),
+                                    mines(omegaShare),     mines(teamProjectile)};
+    FillBox(out.CalculatedWeaponDPS[7], st.MineDamage[v], 1, minePieces, info);
+
+    CalculateFiringArcs(c);
+}
 
 } // namespace vantorel

@@ -1,8 +1,115 @@
 #include "engine/calculator.h"
+#include "engine/numbers.h"
+
+#include <algorithm>
 
 namespace vantorel {
 
-// Not yet built: answers that keep the rest running.
-std::string CalculateToolTip(Calculator&, int, int, int, int, int, int, int, int, int, Vessel) { return {}; }
+namespace {
+
+// The product of one entry, in the order of the formula. Each step takes the
+// wider type: all single for a lone weapon, double once the DPW is a double.
+template <typename T>
+float EntryValue(T dpw, int count, float range, float skill, float modifier, float critical, float resistance,
+                 float accuracy) {
+    const auto value = dpw * static_cast<T>(count) * range * skill * modifier * critical * resistance * accuracy;
+    return Round(static_cast<float>(value), 3);
+}
+
+float EntryValue(const DPW& dpw, int count, float range, float skill, float modifier, float critical, float resistance,
+                 float accuracy) {
+    switch (dpw.type) {
+    case DPW::Type::Double:
+        return EntryValue(dpw.dbl, count, range, skill, modifier, critical, resistance, accuracy);
+    case DPW::Type::Single:
+        return EntryValue(dpw.single, count, range, skill, modifier, critical, resistance, accuracy);
+    case DPW::Type::Zero:
+        break;
+    }
+    return 0.0f;
+}
+
+std::string CannonSkillPart(const CalculatorState& s, Vessel v) {
+    if (s.RapidFire[v] > 0) return " (Rapid Fire" + SignedText(static_cast<int>(s.RapidFire[v])) + "):";
+    if (s.ScatterVolley[v] > 0) {
+        const std::string head = " (Scatter Volley" + SignedText(static_cast<int>(s.ScatterVolley[v]));
+        if (s.SkillTargets[v] < 2) return head + ", 1 Target):";
+        // A volley reaches three targets at most.
+        return head + "," + SignedText(std::min<int>(s.SkillTargets[v], 3)) + " Targets):";
+    }
+    return ":";
+}
+
+std::string BeamSkillPart(const CalculatorState& s, Vessel v) {
+    if (s.BeamSkill[v] == 0) return ":";
+    const std::string head = " (Fire At Will" + SignedText(static_cast<int>(s.BeamSkill[v]));
+    if (s.SkillTargets[v] < 2) return head + ", 1 Target):";
+    return head + "," + SignedText(static_cast<int>(s.SkillTargets[v])) + " Targets):";
+}
+
+} // namespace
+
+std::string CalculateToolTip(Calculator& c, int dualHeavyCannons, int dualCannons, int dualBeamBanks, int cannons,
+                             int beamArrays, int turrets, int shuttleBeamArrays, int power, int distance, Vessel v) {
+    const CalculatorState& s = c.state;
+    const float beamSkill = BeamSkillModifier(c, v);
+    const float cannonSkill = CannonSkillModifier(c, v, false);
+    const float turretSkill = CannonSkillModifier(c, v, true);
+    const float beamRange = GetRangeMod(distance, 1);
+    const float cannonRange = GetRangeMod(distance, 2);
+    float boosted = CriticalMultiplier(c, v, true, 0.0f, 0.0f);
+    float plain = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
+    // An addition where the DPS multiplies by 1.03375: the parts of a custom
+    // tooltip need not add up to the box.
+    if (c.Alpha().RelativeDPS.value() == 0) {
+        boosted += 0.03375f;
+        plain += 0.03375f;
+    }
+
+    struct Kind {
+        int count;
+        const char* word;
+        bool plural;
+        int row;
+        bool beam;
+        float range, skill;
+        bool shuttle;
+        float modifier, critical;
+    };
+    const Kind kinds[7] = {
+        {dualHeavyCannons, " Dual Heavy Cannons", false, 1, false, cannonRange, cannonSkill, false, s.CannonModifier[v],
+         boosted},
+        {dualCannons, " Dual Cannons", false, 2, false, cannonRange, cannonSkill, false, s.CannonModifier[v], plain},
+        {dualBeamBanks, " Dual Beam Bank", true, 3, true, beamRange, beamSkill, false, s.BeamModifier[v], plain},
+        {cannons, " Cannon", true, 4, false, cannonRange, cannonSkill, false, s.CannonModifier[v], plain},
+        {beamArrays, " Beam Array", true, 5, true, beamRange, beamSkill, false, s.BeamModifier[v], plain},
+        {turrets, " Turret", true, 6, false, cannonRange, turretSkill, false, s.CannonModifier[v], plain},
+        {shuttleBeamArrays, " Shuttle Beam Array", true, 5, true, beamRange, beamSkill, true, 0.0f, plain},
+    };
+    const int total =
+        dualHeavyCannons + dualCannons + dualBeamBanks + cannons + beamArrays + turrets + shuttleBeamArrays;
+
+    std::string text;
+    std::string cannonPart;
+    std::string beamPart;
+    for (const Kind& k : kinds) {
+        if (k.count <= 0) continue;
+        const float modifier = k.shuttle ? ShuttleArrayModifier(c, v, k.count) : k.modifier;
+        const float value = EntryValue(DPWCalc(s, power, k.row, total), k.count, k.range, k.skill, modifier, k.critical,
+                                       s.ResistanceFactor[v], s.AccuracyFactor[v]);
+        std::string& skillPart = k.beam ? beamPart : cannonPart;
+        if (skillPart.empty()) skillPart = k.beam ? BeamSkillPart(s, v) : CannonSkillPart(s, v);
+        if (text.empty())
+            text.reserve(160);
+        else
+            text += ", ";
+        text += PlainText(k.count);
+        text += k.word;
+        if (k.plural && k.count > 1) text += 's';
+        text += skillPart;
+        text += SignedText(value);
+    }
+    return text;
+}
 
 } // namespace vantorel
