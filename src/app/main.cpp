@@ -1,6 +1,14 @@
+#include "engine/calculator.h"
+#include "mainwindow/layout.h"
+#include "mainwindow/view/mainwindow.h"
+
 #include <QApplication>
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
-    return 0;
+    vantorel::Calculator calculator;
+    vantorel::MainWindow window(calculator);
+    vantorel::PlaceMainWindowAtStart(calculator);
+    calculator.main.Form1.setVisible(true);
+    return app.exec();
 }

@@ -1,0 +1,184 @@
+#include "gui/binding.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace vantorel::gui {
+
+namespace {
+
+QString ToQString(const std::string& s) { return QString::fromStdString(s); }
+
+void SetPalette(QWidget* w, QPalette::ColorRole backRole, QPalette::ColorRole foreRole, const Control& f) {
+    const QColor back = ToQColor(f.back());
+    const QColor fore = ToQColor(f.fore());
+    const QPalette& now = w->palette();
+    if (now.color(backRole) == back && now.color(foreRole) == fore) return;
+    QPalette p = now;
+    p.setColor(backRole, back);
+    p.setColor(foreRole, fore);
+    w->setPalette(p);
+}
+
+void SetToolTip(QWidget* w, const std::string& tip) {
+    const QString text = ToQString(tip);
+    if (w->toolTip() != text) w->setToolTip(text);
+}
+
+// What every control has: enabled, place, visibility. Visibility last, so
+// that a control appears at its new place.
+void ShowControl(QWidget* w, const Control& f, const Twips& twips) {
+    if (w->isEnabled() != f.enabled()) w->setEnabled(f.enabled());
+    const QRect place = twips.rect(f);
+    if (w->geometry() != place) w->setGeometry(place);
+    if (w->isHidden() == f.visible()) w->setVisible(f.visible());
+}
+
+// The field's one view hook; it outlives neither the widget nor the field.
+template <typename W, typename F, typename Show> void Attach(W* widget, F& field, const Twips& twips, Show show) {
+    QPointer<W> guard(widget);
+    field.setView([guard, &field, twips, show] {
+        if (!guard) return;
+        const QSignalBlocker blocker(guard.data());
+        show(guard.data(), field, twips);
+    });
+    const QSignalBlocker blocker(widget);
+    show(widget, field, twips);
+}
+
+void ShowLabel(QLabel* w, const Label& f, const Twips& twips) {
+    const QString caption = ToQString(f.caption());
+    if (w->text() != caption) w->setText(caption);
+    SetToolTip(w, f.tooltip());
+    SetPalette(w, QPalette::Window, QPalette::WindowText, f);
+    ShowControl(w, f, twips);
+}
+
+bool SameRows(const QComboBox* w, const List& f) {
+    if (w->count() != f.count()) return false;
+    for (int i = 0; i < f.count(); ++i) {
+        if (w->itemText(i) != ToQString(f.row(i))) return false;
+    }
+    return true;
+}
+
+void ShowList(QComboBox* w, const List& f, const Twips& twips) {
+    if (!SameRows(w, f)) {
+        w->clear();
+        QStringList rows;
+        rows.reserve(f.count());
+        for (const std::string& row : f.rows())
+            rows.append(ToQString(row));
+        w->addItems(rows);
+        // The drop-down shows whole rows even where the closed list is
+        // narrower than its longest row.
+        w->view()->setMinimumWidth(w->view()->sizeHintForColumn(0) + 2 * w->view()->frameWidth());
+    }
+    if (w->currentIndex() != f.index()) w->setCurrentIndex(f.index());
+    if (w->isEditable()) {
+        const QString text = ToQString(f.text());
+        if (w->currentText() != text) w->setEditText(text);
+    }
+    SetToolTip(w, f.tooltip());
+    SetPalette(w, QPalette::Base, QPalette::Text, f);
+    ShowControl(w, f, twips);
+}
+
+void ShowFlag(QCheckBox* w, const Flag& f, const Twips& twips) {
+    const QString caption = ToQString(f.caption());
+    if (w->text() != caption) w->setText(caption);
+    const bool checked = f.value() != 0;
+    if (w->isChecked() != checked) w->setChecked(checked);
+    SetToolTip(w, f.tooltip());
+    SetPalette(w, QPalette::Window, QPalette::WindowText, f);
+    ShowControl(w, f, twips);
+}
+
+void ShowButton(QPushButton* w, const Button& f, const Twips& twips) {
+    const QString caption = ToQString(f.caption());
+    if (w->text() != caption) w->setText(caption);
+    SetToolTip(w, f.tooltip());
+    ShowControl(w, f, twips);
+}
+
+void ShowScrollBar(QScrollBar* w, const ScrollBar& f, const Twips& twips) {
+    // A page narrower than its window gives a negative maximum; the bar then
+    // has nowhere to go.
+    const int maximum = std::max(f.maximum(), 0);
+    if (w->maximum() != maximum || w->minimum() != 0) w->setRange(0, maximum);
+    if (w->singleStep() != f.smallStep()) w->setSingleStep(f.smallStep());
+    if (w->pageStep() != f.largeStep()) w->setPageStep(f.largeStep());
+    if (w->value() != f.value()) w->setValue(f.value());
+    ShowControl(w, f, twips);
+}
+
+void ShowPage(QWidget* w, const Control& f, const Twips& twips) {
+    SetPalette(w, QPalette::Window, QPalette::WindowText, f);
+    ShowControl(w, f, twips);
+}
+
+} // namespace
+
+QColor ToQColor(Colour c) {
+    return QColor(static_cast<int>(c & 0xFF), static_cast<int>((c >> 8) & 0xFF), static_cast<int>((c >> 16) & 0xFF));
+}
+
+QFont FrontierFont(double points, bool bold) {
+    QFont font;
+    font.setFamilies({QStringLiteral("Final Frontier"), QStringLiteral("DejaVu Sans Condensed"),
+                      QStringLiteral("Arial Narrow"), QStringLiteral("Liberation Sans Narrow")});
+    font.setPointSizeF(points);
+    font.setBold(bold);
+    return font;
+}
+
+void Bind(QLabel* widget, Label& field, const Twips& twips) {
+    widget->setAutoFillBackground(true);
+    Attach(widget, field, twips, ShowLabel);
+}
+
+void Bind(QComboBox* widget, List& field, const Twips& twips) {
+    if (field.typing()) {
+        widget->setEditable(true);
+        // Typed text is the port's own value: nothing is added to the rows
+        // and nothing is completed behind the user's back.
+        widget->setInsertPolicy(QComboBox::NoInsert);
+        widget->setCompleter(nullptr);
+        QObject::connect(widget->lineEdit(), &QLineEdit::textEdited, widget,
+                         [&field](const QString& text) { field.setText(text.toStdString()); });
+    }
+    QObject::connect(widget, &QComboBox::activated, widget, [&field](int row) { field.click(row); });
+    Attach(widget, field, twips, ShowList);
+}
+
+void Bind(QCheckBox* widget, Flag& field, const Twips& twips) {
+    widget->setAutoFillBackground(true);
+    QObject::connect(widget, &QCheckBox::clicked, widget, [&field](bool checked) { field.setValue(checked ? 1 : 0); });
+    Attach(widget, field, twips, ShowFlag);
+}
+
+void Bind(QPushButton* widget, Button& field, const Twips& twips) {
+    QObject::connect(widget, &QPushButton::clicked, widget, [&field] { field.press(); });
+    Attach(widget, field, twips, ShowButton);
+}
+
+void Bind(QScrollBar* widget, ScrollBar& field, const Twips& twips) {
+    QObject::connect(widget, &QScrollBar::valueChanged, widget, [&field](int value) { field.setValue(value); });
+    Attach(widget, field, twips, ShowScrollBar);
+}
+
+void BindPage(QWidget* widget, Control& field, const Twips& twips) {
+    widget->setAutoFillBackground(true);
+    Attach(widget, field, twips, ShowPage);
+}
+
+} // namespace vantorel::gui
