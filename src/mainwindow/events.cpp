@@ -42,7 +42,7 @@ std::string ShuttleRankName(int faction, int level) {
     return faction < 2 ? kFederation[row] : kKlingon[row];
 }
 
-const char* const kVantageNote =
+const char* const kShuttleRankNote =
     "Shuttle weapon damage is calculated based on a rank of Vice Admiral.  If you are a lower rank, please select "
     "your rank in the Advanced Settings for accurate shuttle weapon damage.";
 const char* const kDualCannonNote =
@@ -177,7 +177,7 @@ void UpdateNote(Calculator& c) {
         for (Vessel v = 1; v <= 2; ++v)
             if (s.WeaponCount[11][v] > 0 && GetRank(c, v) == 100) vantage = true;
         if (vantage)
-            ShowNote(note, kVantageNote);
+            ShowNote(note, kShuttleRankNote);
         else
             note.setVisible(false);
         return;

@@ -60,20 +60,5 @@ TEST(DpwCurves, PathsAndEdgeCases) {
     }
 }
 
-TEST(DpwCurves, MoreWeaponsDrainMorePower) {
-    const CalculatorState s = Tables();
-    const double expected[8] = {96.735f, 90.707, 82.654, 74.552, 66.733, 58.668, 51.648, 44.472};
-    EXPECT_EQ(DPWCalc(s, 100, 5, 1).single, 96.735f);
-    for (int count = 2; count <= 8; ++count)
-        EXPECT_EQ(DPWCalc(s, 100, 5, count).dbl, expected[count - 1]) << count;
-}
-
-TEST(DpwCurves, LoneWeaponsAtFullPower) {
-    const CalculatorState s = Tables();
-    const float expected[6] = {135.387f, 134.039f, 126.036f, 110.938f, 96.735f, 69.41f};
-    for (int kind = 1; kind <= 6; ++kind)
-        EXPECT_EQ(DPWCalc(s, 100, kind, 1).single, expected[kind - 1]) << kind;
-}
-
 } // namespace
 } // namespace vantorel

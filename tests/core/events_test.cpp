@@ -88,9 +88,10 @@ TEST(MainWindowEvents, ShuttleGradeChangesTheResult) {
 }
 
 TEST(MainWindowEvents, Note) {
-    const std::string vantage = "Shuttle weapon damage is calculated based on a rank of Vice Admiral.  If you are a "
-                                "lower rank, please select your rank in the Advanced Settings for accurate shuttle "
-                                "weapon damage.";
+    const std::string shuttleNote =
+        "Shuttle weapon damage is calculated based on a rank of Vice Admiral.  If you are a "
+        "lower rank, please select your rank in the Advanced Settings for accurate shuttle "
+        "weapon damage.";
     const std::string dualCannons =
         "Insufficient data to calculate Dual Cannon DPS with more than 7 concurrently firing energy weapons equipped. "
         "For accurate results, please remove a forward energy weapon or rear turret.";
@@ -105,7 +106,7 @@ TEST(MainWindowEvents, Note) {
         std::string text;
     } cases[] = {
         {"nothing to say", {"Beam Array"}, {}, false, false, false, ""},
-        {"unrestricted shuttle", {"Shuttle Beam Array"}, {}, false, false, true, vantage},
+        {"unrestricted shuttle", {"Shuttle Beam Array"}, {}, false, false, true, shuttleNote},
         {"ranked shuttle", {"Shuttle Beam Array"}, {}, true, false, false, ""},
         {"shuttle comes before dual cannons",
          {"Dual Cannons", "Dual Cannons", "Shuttle Beam Array", "Cannon"},
@@ -113,7 +114,7 @@ TEST(MainWindowEvents, Note) {
          false,
          false,
          true,
-         vantage},
+         shuttleNote},
         {"eight with dual cannons",
          {"Dual Cannons", "Dual Cannons", "Cannon", "Cannon"},
          {"Turret", "Turret", "Turret", "Turret"},
