@@ -59,7 +59,7 @@ void ShowLabel(QLabel* w, const Label& f, const Twips& twips) {
     const QString caption = ToQString(f.caption());
     if (w->text() != caption) w->setText(caption);
     SetToolTip(w, f.tooltip());
-    SetPalette(w, QPalette::Window, QPalette::WindowText, f);
+    SetPalette(w, w->backgroundRole(), w->foregroundRole(), f);
     ShowControl(w, f, twips);
 }
 
@@ -87,6 +87,9 @@ void ShowList(QComboBox* w, const List& f, const Twips& twips) {
     if (w->isEditable()) {
         const QString text = ToQString(f.text());
         if (w->currentText() != text) w->setEditText(text);
+        // A text wider than the list shows its start, as it reads, except
+        // while the user is typing in it.
+        if (!w->lineEdit()->hasFocus()) w->lineEdit()->setCursorPosition(0);
     }
     SetToolTip(w, f.tooltip());
     SetPalette(w, QPalette::Base, QPalette::Text, f);
@@ -99,7 +102,7 @@ void ShowFlag(QCheckBox* w, const Flag& f, const Twips& twips) {
     const bool checked = f.value() != 0;
     if (w->isChecked() != checked) w->setChecked(checked);
     SetToolTip(w, f.tooltip());
-    SetPalette(w, QPalette::Window, QPalette::WindowText, f);
+    SetPalette(w, w->backgroundRole(), w->foregroundRole(), f);
     ShowControl(w, f, twips);
 }
 
@@ -141,10 +144,7 @@ QFont FrontierFont(double points, bool bold) {
     return font;
 }
 
-void Bind(QLabel* widget, Label& field, const Twips& twips) {
-    widget->setAutoFillBackground(true);
-    Attach(widget, field, twips, ShowLabel);
-}
+void Bind(QLabel* widget, Label& field, const Twips& twips) { Attach(widget, field, twips, ShowLabel); }
 
 void Bind(QComboBox* widget, List& field, const Twips& twips) {
     if (field.typing()) {

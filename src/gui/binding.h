@@ -28,6 +28,8 @@ QColor ToQColor(Colour c);
 // that captions sized for it keep to their places.
 QFont FrontierFont(double points, bool bold = false);
 
+// A label is drawn on its page; a box that shows its background colour has
+// autoFillBackground set by its window.
 void Bind(QLabel* widget, Label& field, const Twips& twips);
 void Bind(QComboBox* widget, List& field, const Twips& twips);
 void Bind(QCheckBox* widget, Flag& field, const Twips& twips);

@@ -29,7 +29,7 @@ constexpr int kOmegaOffset = 11280;
 constexpr int kLabelLeft = 120;
 constexpr int kLabelWidth = 2595;
 constexpr int kListLeft = 240;
-constexpr int kListWidth = 2400;
+constexpr int kListWidth = 2460;
 constexpr int kLabelHeight = 285;
 constexpr int kListHeight = 315;
 constexpr int kButtonHeight = 330;
@@ -197,6 +197,9 @@ void LayOutMainWindow(MainSelection& m) {
         Put(m.ShuttleRankLabel[v], kShuttleRankLabel, v);
         Put(m.ShuttleRank[v], kShuttleRank, v);
         Put(m.ShuttleMod[v], kShuttleMod, v);
+        // It stands on the black page, like Simplified.
+        m.ShuttleMod[v].setBack(Black);
+        m.ShuttleMod[v].setFore(White);
     }
     m.HScroll1.setHeight(kScrollBarThickness);
     m.VScroll1.setWidth(kScrollBarThickness);

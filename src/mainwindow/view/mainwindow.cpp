@@ -3,6 +3,7 @@
 #include "engine/calculator.h"
 #include "gui/binding.h"
 #include "mainwindow/layout.h"
+#include "mainwindow/view/shipview.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -73,9 +74,9 @@ void MainWindow::buildMiddle(QWidget* page) {
     MainSelection& m = m_c.main;
 
     // The picture lies under the boxes and captions that border it.
-    auto* picture = new QWidget(page);
-    picture->setObjectName(QStringLiteral("Form1.Picture"));
-    picture->setGeometry(m_twips.rect(m.AlphaImage));
+    auto* picture = new ShipView(m_c, page);
+    picture->setObjectName(Name("AlphaImage"));
+    picture->move(m_twips.rect(m.AlphaImage).topLeft());
 
     auto label = [&](Label& field, const QString& name, const QFont& font, Qt::Alignment align) {
         auto* w = new QLabel(page);
@@ -94,8 +95,10 @@ void MainWindow::buildMiddle(QWidget* page) {
         label(m.FiringArcLabel[i], Name("FiringArcLabel", i), gui::FrontierFont(12), leftMiddle);
         label(m.CFiringArcLabel[i], Name("CFiringArcLabel", i), gui::FrontierFont(12), leftMiddle);
         for (QLabel* box : {label(m.FiringArcDPS[i], Name("FiringArcDPS", i), BoxFont(), Qt::AlignCenter),
-                            label(m.CFiringArcDPS[i], Name("CFiringArcDPS", i), BoxFont(), Qt::AlignCenter)})
+                            label(m.CFiringArcDPS[i], Name("CFiringArcDPS", i), BoxFont(), Qt::AlignCenter)}) {
             box->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+            box->setAutoFillBackground(true);
+        }
     }
 
     auto* simplified = new QCheckBox(page);

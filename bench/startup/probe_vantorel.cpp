@@ -1,0 +1,17 @@
+// The program's own start, up to the first paint of its main window.
+
+#include "first_paint.h"
+
+#include "engine/calculator.h"
+#include "mainwindow/layout.h"
+#include "mainwindow/view/mainwindow.h"
+
+int main(int argc, char* argv[]) {
+    QApplication app(argc, argv);
+    vantorel::Calculator calculator;
+    vantorel::MainWindow window(calculator);
+    FirstPaint painted(window);
+    vantorel::PlaceMainWindowAtStart(calculator);
+    calculator.main.Form1.setVisible(true);
+    return app.exec();
+}

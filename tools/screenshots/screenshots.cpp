@@ -1,0 +1,108 @@
+// Renders the main window in its main states to PNG files. It runs on a
+// virtual screen of 1920 x 1080 pixels at 96 dpi, so that the pictures are
+// the same on every machine, and drives each state through the fields, as a
+// user's clicks would.
+
+#include "engine/calculator.h"
+#include "mainwindow/layout.h"
+#include "mainwindow/view/mainwindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPixmap>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace {
+
+using vantorel::Calculator;
+using vantorel::List;
+
+std::string VirtualScreen() {
+    const std::filesystem::path file = std::filesystem::temp_directory_path() / "vantorel-screenshots-screen.json";
+    std::ofstream(file) << R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [)"
+                        << R"({"name": "Screen", "x": 0, "y": 0, "width": 1920, "height": 1080,)"
+                        << R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+    return file.string();
+}
+
+// Clicks the first row that holds `text`, as a user picks it.
+bool Pick(List& list, const std::string& text) {
+    for (int i = 0; i < list.count(); ++i) {
+        if (list.row(i).find(text) != std::string::npos) {
+            list.click(i);
+            return true;
+        }
+    }
+    std::fprintf(stderr, "no row with \"%s\"\n", text.c_str());
+    return false;
+}
+
+class Shooter final {
+  public:
+    Shooter(vantorel::MainWindow& window, QString folder) : m_window(window), m_folder(std::move(folder)) {}
+    bool operator()(const char* name) {
+        QApplication::processEvents();
+        const QString file = QDir(m_folder).filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
+        const bool saved = m_window.grab().save(file);
+        std::printf("%s %s\n", saved ? "wrote" : "FAILED", qPrintable(file));
+        return saved;
+    }
+
+  private:
+    vantorel::MainWindow& m_window;
+    QString m_folder;
+};
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    const std::string platform = "offscreen:configfile=" + VirtualScreen();
+    qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString(platform));
+    if (qEnvironmentVariableIsEmpty("VANTOREL_IMAGES"))
+        qputenv("VANTOREL_IMAGES", QByteArrayLiteral(VANTOREL_SOURCE_DIR "/Images"));
+    QApplication app(argc, argv);
+    const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("docs/screenshots");
+    QDir().mkpath(folder);
+
+    Calculator c;
+    vantorel::MainWindow window(c);
+    vantorel::PlaceMainWindowAtStart(c);
+    c.main.Form1.setVisible(true);
+    vantorel::MainSelection& m = c.main;
+    Shooter shoot(window, folder);
+    bool ok = shoot("single");
+
+    Pick(m.Forward[1], "Beam Array");
+    Pick(m.Forward[2], "Dual Heavy Cannons");
+    Pick(m.Forward[3], "Torpedo");
+    Pick(m.Rear[1], "Beam Array");
+    Pick(m.Rear[2], "Turret");
+    Pick(m.Rear[3], "Mine");
+    ok = shoot("weapons") && ok;
+
+    m.Compare.press();
+    Pick(m.ShipClass[2], "Escort");
+    Pick(m.CForward[1], "Dual Cannons");
+    Pick(m.CForward[2], "Dual Cannons");
+    Pick(m.CForward[3], "Torpedo");
+    Pick(m.CRear[1], "Turret");
+    Pick(m.CRear[2], "Beam Array");
+    ok = shoot("comparison") && ok;
+
+    m.Simplified.click();
+    ok = shoot("simplified") && ok;
+
+    m.Simplified.click();
+    m.HideCompare.press();
+    m.Reset.press();
+    Pick(m.ShipClass[1], "Shuttlecraft");
+    Pick(m.Forward[1], "Shuttle ");
+    ok = shoot("shuttle") && ok;
+
+    return ok ? EXIT_SUCCESS : EXIT_FAILURE;
+}
