@@ -1,6 +1,7 @@
 #include "mainwindow/view/shipview.h"
 
 #include "engine/calculator.h"
+#include "gui/twips.h"
 #include "mainwindow/shipimage.h"
 
 #include <QCoreApplication>
@@ -9,7 +10,6 @@
 #include <QPen>
 #include <QRectF>
 
-#include <cmath>
 
 namespace vantorel {
 
@@ -17,8 +17,6 @@ namespace {
 
 // Shown where a picture cannot be read.
 const QColor kEmptySpace(10, 12, 20);
-
-int TwipsToPixels(int twips, double logicalDpi) { return static_cast<int>(std::lround(twips * logicalDpi / 1440.0)); }
 
 // Before the first drawing of a ship the window shows the unrestricted ship.
 QString AlphaName(const Calculator& c) {
@@ -89,8 +87,7 @@ ShipView::ShipView(Calculator& c, QWidget* parent) : QWidget(parent), m_c(c) {
     m_folder = folder.isEmpty() ? QCoreApplication::applicationDirPath() + QStringLiteral("/Images")
                                 : QString::fromLocal8Bit(folder);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    const int side = TwipsToPixels(ShipPictureTwips, logicalDpiX());
-    setFixedSize(side, side);
+    setFixedSize(sizeHint());
 
     MainSelection& m = m_c.main;
     const auto pictures = [this] {
@@ -119,10 +116,8 @@ ShipView::~ShipView() {
     m.Cline.setView(nullptr);
 }
 
-QSize ShipView::sizeHint() const {
-    const int side = TwipsToPixels(ShipPictureTwips, logicalDpiX());
-    return {side, side};
-}
+// The picture's place on the window, in pixels of the screen it stands on.
+QSize ShipView::sizeHint() const { return gui::Twips::forScreen(screen()).rect(m_c.main.AlphaImage).size(); }
 
 void ShipView::loadPictures() {
     loadPicture(AlphaKey(m_c));
