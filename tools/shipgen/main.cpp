@@ -19,12 +19,33 @@
 namespace {
 
 QImage Draw(const ShipDrawing& ship) {
+    // The ship on a layer of its own, so that it can cast a faint shadow on
+    // the dust of the sky behind it.
+    QImage layer(360, 360, QImage::Format_ARGB32_Premultiplied);
+    layer.fill(Qt::transparent);
+    {
+        QPainter p(&layer);
+        p.setRenderHint(QPainter::Antialiasing);
+        Artist art(p);
+        ship.draw(art);
+    }
+    QImage shadow = layer;
+    {
+        QPainter p(&shadow);
+        p.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        p.fillRect(shadow.rect(), QColor(0, 0, 0));
+    }
+
     QImage image(360, 360, QImage::Format_ARGB32_Premultiplied);
     QPainter p(&image);
     p.setRenderHint(QPainter::Antialiasing);
     SpaceBackground(p);
-    Artist art(p);
-    ship.draw(art);
+    for (int k = 1; k <= 4; ++k) {
+        p.setOpacity(0.16);
+        p.drawImage(QPointF(2.0 * k, 2.5 * k), shadow);
+    }
+    p.setOpacity(1.0);
+    p.drawImage(0, 0, layer);
     p.end();
     return image.convertToFormat(QImage::Format_RGB32);
 }
@@ -87,7 +108,9 @@ int main(int argc, char** argv) {
         drawn.push_back(image);
         names << name;
     }
-    if (!sheetFile.isEmpty()) Sheet(drawn, names, 6, 240).save(sheetFile);
+    // A few drawings are shown at full size, many as thumbnails.
+    const bool few = drawn.size() <= 4;
+    if (!sheetFile.isEmpty()) Sheet(drawn, names, few ? 4 : 6, few ? 360 : 240).save(sheetFile);
     std::printf("%d ships drawn\n", static_cast<int>(drawn.size()));
     return failures == 0 ? 0 : 1;
 }
