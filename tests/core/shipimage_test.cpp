@@ -260,6 +260,31 @@ TEST(ShipImage, EqualShipsAfterUnequalOnesShowOnePicture) {
     EXPECT_FALSE(c.main.Cline.visible());
 }
 
+TEST(ShipImage, ShipImageControlDrawsOneWholePictureForOneShip) {
+    // At the start Omega is on its same-as rows: the same ship as Alpha.
+    struct Case {
+        const char* name;
+        int comparing;
+        bool clineAfter;
+    } cases[] = {
+        {"not comparing: the line is left alone", 0, true},
+        {"comparing equal ships: the line goes", -1, false},
+    };
+    for (const Case& k : cases) {
+        Calculator c;
+        c.state.Comparing = k.comparing;
+        c.main.OmegaImage.setImage(kLast);
+        c.main.ShipImageId[2] = "Escort/5/0";
+        c.main.Cline.setVisible(true);
+        ShipImageControl(c);
+        EXPECT_EQ(c.main.AlphaImage.image(), "unrestricted") << k.name;
+        EXPECT_EQ(c.main.OmegaImage.image(), "") << k.name;
+        EXPECT_EQ(c.main.ShipImageId[1], "Unrestricted") << k.name;
+        EXPECT_EQ(c.main.ShipImageId[2], "") << k.name;
+        EXPECT_EQ(c.main.Cline.visible(), k.clineAfter) << k.name;
+    }
+}
+
 TEST(ShipImage, ArcOverlayGeometry) {
     struct Case {
         int i;
