@@ -80,6 +80,31 @@ TEST(PowerModel, BirdOfPreyBonus) {
     EXPECT_EQ(GetPowerLevel(c, 1, true), 115);
 }
 
+TEST(PowerModel, ShipBonusByClassAndTier) {
+    struct Case {
+        const char* shipClass;
+        const char* tier; // start of the tier row
+        int subclass;
+        int bonus;
+    } cases[] = {
+        {"   Cruiser", "Tier 1", 0, 0},         {"   Cruiser", "Tier 5", 0, 5},
+        {"   Escort", "Tier 5", 0, 15},         {"   Science Vessel", "Tier 5", 0, 0},
+        {"   Battle Cruiser", "Tier 5", 0, 10}, {"   Bird of Prey", "Tier 1", 0, 15},
+        {"   Carrier", "Tier 5", 0, 5},         {"   Carrier", "Tier 5", 1, 10},
+    };
+    for (const auto& k : cases) {
+        Calculator c;
+        c.main.ShipClass[1].click(RowOf(c.main.ShipClass[1], k.shipClass));
+        const List& tiers = c.main.ShipTier[1];
+        for (int i = 0; i < tiers.count(); ++i)
+            if (tiers.row(i).rfind(k.tier, 0) == 0) c.main.ShipTier[1].click(i);
+        if (k.subclass > 0) c.main.ShipSubclass[1].click(k.subclass);
+        c.Alpha().ExtrapolatePower.setValue(1);
+        CalculatePower(c, 1, true);
+        EXPECT_EQ(c.state.ShipPowerBonus[1], k.bonus) << k.shipClass << ", " << k.tier << ", " << k.subclass;
+    }
+}
+
 TEST(PowerModel, OmegaSnapsToATestedLevel) {
     struct Case {
         const char* alphaRow;
