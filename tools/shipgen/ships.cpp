@@ -203,9 +203,9 @@ void esc3(Artist& a) {
 
 void esc4(Artist& a) {
     const QColor hull(160, 166, 176);
-    const QPainterPath wings = Both(Polygon({P(152, 150), P(104, 190), P(104, 300), P(150, 300)}));
-    a.hull(wings, hull.darker(115));
-    a.nacellePair(102, 176, 312, 19, hull);
+    const QPainterPath wings = Both(Polygon({P(150, 150), P(72, 236), P(70, 300), P(150, 306)}));
+    a.hull(wings, hull.darker(118));
+    a.nacellePair(100, 176, 312, 19, hull);
     const QPainterPath body = Angular({{60, 8}, {76, 40}, {120, 62}, {250, 66}, {300, 60}, {318, 42}});
     a.hull(body, hull);
     QPainterPath seams;
