@@ -18,21 +18,6 @@ using testing::OmegaCaptain;
 using testing::Quietly;
 using Rows = std::vector<std::string>;
 
-TEST(Cascade, StartUpFitsAlphasUnrestrictedShip) {
-    Calculator c;
-    for (int i = 1; i <= 4; ++i) {
-        EXPECT_TRUE(c.main.Forward[i].visible() && c.main.Forward[i].enabled());
-        EXPECT_TRUE(c.main.Rear[i].visible() && c.main.Rear[i].enabled());
-        EXPECT_EQ(c.main.Forward[i].text(), "Forward Weapon Port " + std::to_string(i));
-        EXPECT_EQ(c.main.Forward[i].row(1), "Beam Array");
-        EXPECT_EQ(c.main.Forward[i].row(7), "Quantum Torpedo Launcher");
-        EXPECT_EQ(c.main.Rear[i].row(3), "Quantum Torpedo Launcher");
-        // Omega is not on show: its ports keep their start rows.
-        EXPECT_EQ(c.main.CRear[i].row(3), "Mine Launcher");
-        EXPECT_FALSE(c.main.CForward[i].visible());
-    }
-}
-
 TEST(Cascade, TierCarriesOverToTheNewClass) {
     struct Case {
         const char* name;
@@ -209,33 +194,6 @@ TEST(Cascade, OmegasOwnClassStaysWhenAlphaChanges) {
     EXPECT_EQ(c.main.ShipTier[2].rows(), (Rows{"Same As Alpha", "Tier 2- Somraw Raptor", "Tier 3- Qorgh Raptor",
                                                "Tier 4- Pach Raptor", "Tier 5- Qin Heavy Raptor"}));
     EXPECT_EQ(c.main.ShipTier[2].text(), "Tier 3- Qorgh Raptor");
-}
-
-TEST(Cascade, ShipsOpenTheirPorts) {
-    struct Case {
-        const char* name;
-        const char* shipClass;
-        int subclass;
-        int forward, rear;
-        const char* forwardRow4;
-    };
-    const Case cases[] = {
-        {"shuttle", "Shuttlecraft", 0, 2, 0, "Turret"},
-        {"science vessel", "Science Vessel", 0, 3, 3, "Turret"},
-        {"dreadnought", "Cruiser", 2, 4, 4, "Dual Cannons"},
-    };
-    for (const Case& k : cases) {
-        SCOPED_TRACE(k.name);
-        Calculator c;
-        ChooseClass(c, 1, k.shipClass);
-        ChooseSubclass(c, 1, k.subclass);
-        for (int i = 1; i <= 4; ++i) {
-            EXPECT_EQ(c.main.Forward[i].visible(), i <= k.forward);
-            EXPECT_EQ(c.main.Rear[i].visible(), i <= k.rear);
-        }
-        EXPECT_EQ(c.main.RearWeaponlabel.visible(), k.rear > 0);
-        EXPECT_EQ(c.main.Forward[1].row(4), k.forwardRow4);
-    }
 }
 
 // Custom mode without the settings window's handlers: the flags as they

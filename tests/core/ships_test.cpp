@@ -44,14 +44,6 @@ TEST(Ships, ClassRowsByFactionAndLevel) {
     }
 }
 
-TEST(Ships, UnrestrictedOmegaWithARankOfItsOwn) {
-    Calculator c;
-    OmegaCaptain(c, 0, 0, 3); // level 2
-    EXPECT_EQ(ClassRows(c, 2),
-              (Rows{"Federation", "   Cruiser", "   Escort", "   Shuttlecraft", "   Science Vessel", "Klingon",
-                    "   Battle Cruiser", "   Bird of Prey", "   Raptor", "   Shuttlecraft "}));
-}
-
 TEST(Ships, TierRowsByClassAndLevel) {
     struct Case {
         const char* shipClass;

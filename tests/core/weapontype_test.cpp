@@ -34,6 +34,15 @@ std::vector<std::string> Captions(const VesselSettings& s) {
 
 TEST(WeaponType, StartUpSetsQuantumOnBothVessels) {
     Calculator c;
+    // Its handler fitted Alpha's unrestricted tier 5 ship; Omega, not on
+    // show, keeps its start rows.
+    for (int i = 1; i <= 4; ++i) {
+        EXPECT_TRUE(c.main.Forward[i].visible() && c.main.Rear[i].enabled());
+        EXPECT_EQ(c.main.Forward[i].text(), "Forward Weapon Port " + std::to_string(i));
+        EXPECT_EQ(c.main.Forward[i].row(1), "Beam Array");
+        EXPECT_EQ(c.main.Rear[i].row(3), "Quantum Torpedo Launcher");
+        EXPECT_EQ(c.main.CRear[i].row(3), "Mine Launcher");
+    }
     for (Vessel v = 1; v <= 2; ++v) {
         SCOPED_TRACE(v);
         const VesselSettings& s = c.settings[v];
