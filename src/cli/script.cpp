@@ -425,7 +425,8 @@ int RunScript(const std::string& script, std::ostream& out, std::ostream& err) {
 
 int RunScript(Calculator& calculator, const std::string& script, std::ostream& out, std::ostream& err) {
     Runner runner(calculator);
-    std::size_t start = 0;
+    // Editors on Windows like to open a file with a byte order mark.
+    std::size_t start = script.rfind("\xEF\xBB\xBF", 0) == 0 ? 3 : 0;
     int number = 0;
     while (start < script.size()) {
         std::size_t end = script.find('\n', start);

@@ -286,6 +286,13 @@ TEST(Script, SkipsBlankAndCommentLinesButCountsThem) {
     EXPECT_EQ(r.err.rfind("line 7: ", 0), 0u) << r.err;
 }
 
+TEST(Script, ReadsAScriptThatStartsWithAByteOrderMark) {
+    Calculator c;
+    const Result r = RunOn(c, "\xEF\xBB\xBFprint State.Comparing\n");
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(r.out, "{\n  \"State.Comparing\": 0\n}\n");
+}
+
 TEST(Script, WithoutPrintWritesTheWholeStateOnce) {
     Calculator c;
     const Result r = RunOn(c, "# nothing but a comment\n");
