@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <numbers>
+#include <string>
 #include <string_view>
 
 namespace vantorel {
@@ -42,9 +44,9 @@ std::string ImageId(const std::string& shipClass, int tier, int subclass) {
     return shipClass + "/" + PlainText(tier) + "/" + PlainText(subclass);
 }
 
-// A Federation ship in the service of the Klingon side has the row of an
-// escort, a cruiser or a science vessel by the allied vessel it stands for.
-// Its picture is the first ship of that form and tier.
+// The Federation counterpart of a Klingon allied vessel is built as an
+// escort, a cruiser or a science vessel by the allied vessel's row; its
+// picture is the first ship of that class at its tier.
 std::string FederationAlliedName(Calculator& c, int tier, int alliedRow) {
     switch (alliedRow) {
     case 0:
