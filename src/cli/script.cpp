@@ -233,16 +233,16 @@ class Runner {
         std::string hint;
         switch (ref.kind()) {
         case ValueKind::List:
-            hint = " (select a row of a list)";
+            hint = "; use select";
             break;
         case ValueKind::Flag:
-            hint = " (check a check box)";
+            hint = "; use check";
             break;
         case ValueKind::Button:
-            hint = " (click a button)";
+            hint = "; use click";
             break;
         case ValueKind::Text:
-            hint = " (type into a text box)";
+            hint = "; use type";
             break;
         default:
             break;

@@ -218,7 +218,7 @@ TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
         {"wrong verb for the kind",
          {},
          "click Form1.Simplified",
-         "line 1: click Form1.Simplified: not a button but a check box (check a check box)"},
+         "line 1: click Form1.Simplified: not a button but a check box; use check"},
         {"user verb on an engine value",
          {},
          "check State.SuppressPowerWarning 1",
