@@ -3,6 +3,8 @@
 #include "engine/numbers.h"
 
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace vantorel {
 
