@@ -1,8 +1,8 @@
 #include "gui/binding.h"
 
-#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -79,9 +79,6 @@ void ShowList(QComboBox* w, const List& f, const Twips& twips) {
         for (const std::string& row : f.rows())
             rows.append(ToQString(row));
         w->addItems(rows);
-        // The drop-down shows whole rows even where the closed list is
-        // narrower than its longest row.
-        w->view()->setMinimumWidth(w->view()->sizeHintForColumn(0) + 2 * w->view()->frameWidth());
     }
     if (w->currentIndex() != f.index()) w->setCurrentIndex(f.index());
     if (w->isEditable()) {
@@ -148,11 +145,14 @@ void Bind(QLabel* widget, Label& field, const Twips& twips) { Attach(widget, fie
 
 void Bind(QComboBox* widget, List& field, const Twips& twips) {
     if (field.typing()) {
-        widget->setEditable(true);
         // Typed text is the port's own value: nothing is added to the rows
-        // and nothing is completed behind the user's back.
+        // and nothing is completed behind the user's back. A line edit that
+        // comes with a completer spares the list from building its own.
+        auto* edit = new QLineEdit(widget);
+        edit->setCompleter(new QCompleter(edit));
+        widget->setLineEdit(edit);
+        edit->setCompleter(nullptr);
         widget->setInsertPolicy(QComboBox::NoInsert);
-        widget->setCompleter(nullptr);
         QObject::connect(widget->lineEdit(), &QLineEdit::textEdited, widget,
                          [&field](const QString& text) { field.setText(text.toStdString()); });
     }

@@ -2,11 +2,11 @@
 
 #include "engine/calculator.h"
 #include "gui/binding.h"
+#include "gui/listbox.h"
 #include "mainwindow/layout.h"
 #include "mainwindow/view/shipview.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QLabel>
@@ -130,9 +130,8 @@ void MainWindow::buildColumn(QWidget* page, Vessel v) {
         gui::Bind(w, field, m_twips);
     };
     auto list = [&](List& field, const QString& name) {
-        auto* w = new QComboBox(page);
+        auto* w = new gui::ListBox(page);
         w->setObjectName(name);
-        w->setMaxVisibleItems(20);
         gui::Bind(w, field, m_twips);
     };
     auto button = [&](Button& field, const QString& name) {

@@ -1,0 +1,19 @@
+#pragma once
+
+// A list on a window. Its drop-down is as wide as its longest row, even where
+// the closed list is narrower; the width is measured when the drop-down
+// opens, so that a window full of lists opens quickly.
+
+#include <QComboBox>
+
+namespace vantorel::gui {
+
+class ListBox final : public QComboBox {
+    Q_OBJECT
+
+  public:
+    explicit ListBox(QWidget* parent = nullptr);
+    void showPopup() override;
+};
+
+} // namespace vantorel::gui
