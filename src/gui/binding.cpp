@@ -80,13 +80,20 @@ void ShowList(QComboBox* w, const List& f, const Twips& twips) {
             rows.append(ToQString(row));
         w->addItems(rows);
     }
-    if (w->currentIndex() != f.index()) w->setCurrentIndex(f.index());
+    bool moved = false;
+    if (w->currentIndex() != f.index()) {
+        w->setCurrentIndex(f.index());
+        moved = true;
+    }
     if (w->isEditable()) {
         const QString text = ToQString(f.text());
-        if (w->currentText() != text) w->setEditText(text);
-        // A text wider than the list shows its start, as it reads, except
-        // while the user is typing in it.
-        if (!w->lineEdit()->hasFocus()) w->lineEdit()->setCursorPosition(0);
+        if (w->currentText() != text) {
+            w->setEditText(text);
+            moved = true;
+        }
+        // A text the program puts in shows its start, as it reads; the
+        // user's own typing keeps its cursor.
+        if (moved && !w->lineEdit()->hasFocus()) w->lineEdit()->setCursorPosition(0);
     }
     SetToolTip(w, f.tooltip());
     SetPalette(w, QPalette::Base, QPalette::Text, f);
