@@ -31,10 +31,10 @@ void CombatChanged(Calculator& c, Vessel v) {
     for (Vessel w = v; w <= 2; ++w) {
         if (w == 2 && v == 1 && c.Omega().SameAsAlpha.value() != 1) break;
         const VesselSettings& source = (w == 1 || c.Omega().SameAsAlpha.value() == 1) ? c.Alpha() : c.Omega();
-        if (source.Accuracy.value() == 1)
-            ModifiedAccuracy(c, w); // runs ModifiedCritical itself
-        else
-            ModifiedCritical(c, w);
+        // Accuracy first: it settles the excess that the criticals read, and
+        // runs ModifiedCritical itself while accuracy counts.
+        ModifiedAccuracy(c, w);
+        if (source.Accuracy.value() != 1) ModifiedCritical(c, w);
         ModifiedResistance(c, w);
         ModifiedDPS(c, w);
     }

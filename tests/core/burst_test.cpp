@@ -175,11 +175,5 @@ TEST(Burst, ToolTip) {
     }
 }
 
-TEST(Burst, ToolTipOfTheOverloadedWeapon) {
-    auto c = Vessel1(kQuantum, {.overload = 3});
-    EXPECT_EQ(BurstToolTip(*c, 0, 0, 1, 1, 1, 1).rfind("Dual Beam Bank Overload 3:", 0), 0u);
-    EXPECT_EQ(BurstToolTip(*c, 0, 0, 0, 0, 1, 1).rfind("Shuttle Beam Array Overload 3:", 0), 0u);
-}
-
 } // namespace
 } // namespace vantorel

@@ -41,6 +41,12 @@ TEST(Chains, FieldsReachTheArcs) {
     } cases[] = {
         {"relative mode", [](Calculator&) {}, 100.0f},
         {"accuracy", [](Calculator& c) { c.Alpha().Accuracy.setValue(1); }, 50.0f},
+        {"accuracy on and off",
+         [](Calculator& c) {
+             c.Alpha().Accuracy.setValue(1);
+             c.Alpha().Accuracy.setValue(0);
+         },
+         100.0f},
         {"resistance", [](Calculator& c) { c.Alpha().DamageResistance.setValue(1); }, 89.381f},
         {"custom weapons", PlainCustomWeapons, 147.037f},
         {"custom and back",

@@ -124,38 +124,42 @@ TEST(Combat, CriticalBoxes) {
         const char* vectors;
         const char* strategy;
         int item;
-        int weaponMods; // index given to all three mods in custom weapons, -1 for relative mode
+        const char* mods; // custom weapons with these mod indices in slots 1..3; relative mode if null
         const char* critH;
         const char* chanceTip;
         const char* critD;
         const char* severityTip;
     } cases[] = {
-        {"Alpha keeps two decimals", 1, "5", "5", -1, -1, "4.17%", "Critical Chance- Base: 2.5%, Attack Vectors: 1.67%",
-         "67.3%", "Critical Severity- Base: 50%, Battle Strategy: 17.31%"},
-        {"Omega shows whole numbers", 2, "5", "5", -1, -1, "4.5%", "Critical Chance- Base: 2.5%, Attack Vectors: 2%",
-         "67%", "Critical Severity- Base: 50%, Battle Strategy: 17%"},
-        {"empty skills add nothing", 1, "", "N/A", -1, -1, "2.5%", "Critical Chance- Base: 2.5%", "50%",
+        {"Alpha keeps two decimals", 1, "5", "5", -1, nullptr, "4.17%",
+         "Critical Chance- Base: 2.5%, Attack Vectors: 1.67%", "67.3%",
+         "Critical Severity- Base: 50%, Battle Strategy: 17.31%"},
+        {"Omega shows whole numbers", 2, "5", "5", -1, nullptr, "4.5%",
+         "Critical Chance- Base: 2.5%, Attack Vectors: 2%", "67%",
+         "Critical Severity- Base: 50%, Battle Strategy: 17%"},
+        {"empty skills add nothing", 1, "", "N/A", -1, nullptr, "2.5%", "Critical Chance- Base: 2.5%", "50%",
          "Critical Severity- Base: 50%"},
-        {"Borg module", 1, "9", "9", 2, -1, "5.42%",
+        {"Borg module", 1, "9", "9", 2, nullptr, "5.42%",
          "Critical Chance- Base: 2.5%, Attack Vectors: 2%, Borg Assimilated Module: 0.92%", "84.2%",
          "Critical Severity- Base: 50%, Battle Strategy: 25%, Borg Assimilated Module: 9.2%"},
-        {"Aegis does not touch criticals", 1, "9", "9", 1, -1, "4.5%",
+        {"Aegis does not touch criticals", 1, "9", "9", 1, nullptr, "4.5%",
          "Critical Chance- Base: 2.5%, Attack Vectors: 2%", "75%",
          "Critical Severity- Base: 50%, Battle Strategy: 25%"},
-        {"both items", 1, "9", "9", 3, -1, "5.42%", nullptr, "84.2%", nullptr},
-        {"reserved Attack Vectors level", 1, "47", "9", 2, -1, "0%", nullptr, "0%", nullptr},
-        {"one [CrtD] per mod slot", 1, "9", "9", -1, 2, "4.5%", nullptr, "135%",
+        {"both items", 1, "9", "9", 3, nullptr, "5.42%", nullptr, "84.2%", nullptr},
+        {"reserved Attack Vectors level", 1, "47", "9", 2, nullptr, "0%", nullptr, "0%", nullptr},
+        {"[CrtD] in every slot", 1, "9", "9", -1, "222", "4.5%", nullptr, "135%",
          "Critical Severity- Base: 50%, Battle Strategy: 25%, Weapon Mod [CrtD]x3: 60%"},
-        {"[CrtH] mods", 1, "9", "9", -1, 3, "10.5%",
+        {"one [CrtD] has no count", 1, "9", "9", -1, "200", "4.5%", nullptr, "95%",
+         "Critical Severity- Base: 50%, Battle Strategy: 25%, Weapon Mod [CrtD]: 20%"},
+        {"[CrtH] mods", 1, "9", "9", -1, "333", "10.5%",
          "Critical Chance- Base: 2.5%, Attack Vectors: 2%, Weapon Mod [CrtH]x3: 6%", "75%", nullptr},
     };
     for (const Case& k : cases) {
         auto c = std::make_unique<Calculator>();
         CustomCombat(*c, k.vessel, k.vectors, "", k.strategy, k.item);
-        if (k.weaponMods >= 0) {
+        if (k.mods) {
             c->Alpha().RelativeDPS.setValue(0);
             for (int i = 1; i <= 3; ++i)
-                c->settings[k.vessel].WeaponMod[i].setIndex(k.weaponMods);
+                c->settings[k.vessel].WeaponMod[i].setIndex(k.mods[i - 1] - '0');
         }
         ModifiedCritical(*c, k.vessel);
         const VesselSettings& s = c->settings[k.vessel];
@@ -164,16 +168,6 @@ TEST(Combat, CriticalBoxes) {
         if (k.chanceTip) { EXPECT_EQ(s.CritH.tooltip(), k.chanceTip) << k.name; }
         if (k.severityTip) { EXPECT_EQ(s.CritD.tooltip(), k.severityTip) << k.name; }
     }
-}
-
-TEST(Combat, OneCrtDModReadsWithoutCount) {
-    auto c = std::make_unique<Calculator>();
-    c->Alpha().RelativeDPS.setValue(0);
-    c->Alpha().WeaponMod[1].setIndex(2);
-    ModifiedCritical(*c, 1);
-    EXPECT_EQ(c->Alpha().CritD.tooltip(),
-              "Critical Severity- Base: 50%, Battle Strategy (Max): 25%, Weapon Mod [CrtD]: 20%");
-    EXPECT_EQ(c->Alpha().CritD.caption(), "95%");
 }
 
 TEST(Combat, ReservedAttackVectorsLevelSwitchesCriticalsOff) {
@@ -295,18 +289,6 @@ TEST(Combat, Resistance) {
         EXPECT_FLOAT_EQ(c->state.ResistanceFactor[k.vessel], k.factor) << k.name;
         EXPECT_EQ(c->settings[k.vessel].DamageReduction.caption(), k.box) << k.name;
     }
-}
-
-TEST(Combat, TargetResistanceValue) {
-    auto c = std::make_unique<Calculator>();
-    c->Alpha().TargetResistance.setText("30");
-    EXPECT_EQ(TargetResistanceValue(*c, 1), 11.88f) << "defaults are not read from the box";
-    CustomCombat(*c, 1, "9", "9", "9");
-    c->Alpha().TargetResistance.setText("30");
-    EXPECT_EQ(TargetResistanceValue(*c, 1), 30.0f);
-    EXPECT_EQ(TargetResistanceValue(*c, 2), 30.0f) << "mirrored";
-    c->Omega().SameAsAlpha.setValue(0);
-    EXPECT_EQ(TargetResistanceValue(*c, 2), 11.88f) << "Omega's own defaults";
 }
 
 } // namespace

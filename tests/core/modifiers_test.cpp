@@ -218,33 +218,6 @@ TEST(Modifiers, ConsoleBonus) {
     }
 }
 
-TEST(Modifiers, ConsolesAddUp) {
-    auto c = std::make_unique<Calculator>();
-    VesselSettings& a = c->Alpha();
-    for (int i = 1; i <= 4; ++i) {
-        a.TacticalConsole[i].setIndex(1);
-        a.TacticalConsoleMark[i].setIndex(1);
-        a.TacticalConsoleRarity[i].setIndex(i - 1);
-        a.TacticalConsoleEquipped[i].setValue(1);
-    }
-    EXPECT_EQ(ConsoleBonus(*c, 1, 1), 3.8f + 5.6f + 7.5f + 9.4f);
-}
-
-TEST(Modifiers, BaseProjectileDamage) {
-    struct Case {
-        int type;
-        float relative, actual;
-    } cases[] = {{0, 950.53f, 1352},     {1, 1056.691f, 1503}, {2, 745.941f, 1061},
-                 {3, 813.786f, 1157.5f}, {4, 687.587f, 978},   {5, 4607.82f, 6554}};
-    for (const Case& k : cases) {
-        auto c = std::make_unique<Calculator>();
-        c->Alpha().WeaponType[2].setIndex(k.type);
-        EXPECT_EQ(BaseProjectileDamage(*c, 1), k.relative) << k.type;
-        c->Alpha().RelativeDPS.setValue(0);
-        EXPECT_EQ(BaseProjectileDamage(*c, 1), k.actual) << k.type;
-    }
-}
-
 TEST(Modifiers, ResetModifierReturnsToOne) {
     auto c = PlainCustom();
     ASSERT_NE(c->state.BeamModifier[1], 1.0f);

@@ -104,15 +104,6 @@ TEST(SkillState, Levels) {
     }
 }
 
-TEST(SkillState, EachCallRewritesAllLevels) {
-    auto c = std::make_unique<Calculator>();
-    Tick(c->skills[1].BeamSkillActivated, c->skills[1].BeamSkillLevel, 2);
-    SkillUpdate(*c, 1);
-    c->skills[1].BeamSkillActivated.setValue(0);
-    SkillUpdate(*c, 1);
-    EXPECT_EQ(c->state.BeamSkill[1], 0);
-}
-
 TEST(SkillState, MirroredOmegaKeepsItsOwnAttackPatternAlphaLevel) {
     auto c = std::make_unique<Calculator>();
     VesselSkills& a = c->skills[1];
@@ -132,23 +123,6 @@ TEST(SkillState, MirroredOmegaKeepsItsOwnAttackPatternAlphaLevel) {
     o.SameAsAlpha.setValue(0);
     SkillUpdate(*c, 2);
     EXPECT_EQ(Read(c->state, 2), (Levels{.beam = 1, .targets = 7}));
-}
-
-TEST(SkillState, AttackPatternAlphaLevelTexts) {
-    struct Case {
-        const char* text;
-        int level;
-    } cases[] = {{"1", 1}, {"2 ", 2}, {" 3 ", 3}, {"", 0}};
-    for (const Case& k : cases) {
-        auto c = std::make_unique<Calculator>();
-        List& list = c->skills[1].AttackPatternAlphaLevel;
-        list.clear();
-        list.addItem(k.text);
-        list.setIndex(0);
-        c->skills[1].AttackPatternAlpha.setValue(1);
-        SkillUpdate(*c, 1);
-        EXPECT_EQ(c->state.AttackPatternAlpha[1], k.level) << '"' << k.text << '"';
-    }
 }
 
 } // namespace
