@@ -65,6 +65,9 @@ TEST(Fit, SizesBarsAndPage) {
          false, -5, 1, 2, 0, 1, 1, true, true},
         {"single again after comparison on a narrow screen", Input(false, N, 12000, 10005, {0, 0, 12000, 15600}, true),
          N, 9950, 9765, false, false, -5, 1, 2, 0, 1, 1, true, true},
+        {"single from the design width on a low screen keeps a short bar",
+         Input(false, N, 9950, 9000, {0, 0, 12000, 9000}, true), N, 9950, 9000, true, true, 9825 - 9590, 15, 59,
+         9360 - (8595 - 240), 63, 252, false, false},
         {"one twip narrower than the design: negative maximum", Input(false, N, 9950, 9765, {0, 0, 9949, 15600}, false),
          N, 9949, 10005, true, false, 9825 - 9829, 1, 2, 9360 - (9600 - 240), 1, 1, false, true},
     };
