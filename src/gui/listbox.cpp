@@ -1,6 +1,8 @@
 #include "gui/listbox.h"
 
 #include <QAbstractItemView>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 
 namespace vantorel::gui {
 
@@ -10,6 +12,22 @@ void ListBox::showPopup() {
     QAbstractItemView* rows = view();
     rows->setMinimumWidth(rows->sizeHintForColumn(0) + 2 * rows->frameWidth());
     QComboBox::showPopup();
+}
+
+void ListBox::paintEvent(QPaintEvent* event) {
+    if (isEditable()) {
+        QComboBox::paintEvent(event);
+        return;
+    }
+    // A row wider than the closed list ends in an ellipsis rather than
+    // being cut off mid-letter.
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect text = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, text.width());
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 } // namespace vantorel::gui

@@ -2,7 +2,8 @@
 
 // A list on a window. Its drop-down is as wide as its longest row, even where
 // the closed list is narrower; the width is measured when the drop-down
-// opens, so that a window full of lists opens quickly.
+// opens, so that a window full of lists opens quickly. A closed list without
+// typing elides a row that does not fit.
 
 #include <QComboBox>
 
@@ -14,6 +15,9 @@ class ListBox final : public QComboBox {
   public:
     explicit ListBox(QWidget* parent = nullptr);
     void showPopup() override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 } // namespace vantorel::gui
