@@ -191,7 +191,9 @@ void ModifiedAccuracy(Calculator& c, Vessel v) {
         defense = NumericOr(src.TargetDefense.text(), 0.0);
     }
     const int accuracyMods = Relative(c) ? 0 : 10 * CountMods(src, kAcc);
-    const float vectorsAccuracy = (SkillPoints(1, WholeNumber(level)) * 15) / 18;
+    // A level far outside the table scores nothing; keep it out of the int.
+    const int wholeLevel = std::fabs(level) < 1e6 ? WholeNumber(level) : 0;
+    const float vectorsAccuracy = (SkillPoints(1, wholeLevel) * 15) / 18;
     double hit = vectorsAccuracy + 95 + accuracyMods - defense;
 
     std::string tip = "Hit Rate- Base: 95%, Attack Vectors Skill:" + SignedText(Round(vectorsAccuracy, 2)) + "%";
