@@ -201,6 +201,7 @@ void LayOutMainWindow(MainSelection& m) {
         m.ShuttleMod[v].setBack(Black);
         m.ShuttleMod[v].setFore(White);
     }
+    m.Form1.setBack(Black);
     m.HScroll1.setHeight(kScrollBarThickness);
     m.VScroll1.setWidth(kScrollBarThickness);
 }

@@ -87,7 +87,8 @@ StartPlace PlaceAtStart(const WorkArea& work, int graphWidth);
 
 // Writes the places of the vessel columns into their fields (the middle of
 // the window has its places from the start values), the thickness of the
-// scroll bars, and the colours of the rare shuttle array check.
+// scroll bars, and the colours of the window and of the rare shuttle array
+// check.
 void LayOutMainWindow(MainSelection& m);
 // The scroll bars move the page. Called once by the window that shows them.
 void WireScrollBars(Calculator& c);

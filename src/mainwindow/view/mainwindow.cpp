@@ -42,9 +42,6 @@ MainWindow::MainWindow(Calculator& c, QWidget* parent)
     setObjectName(QStringLiteral("Form1"));
     auto* client = new QWidget(this);
     client->setAutoFillBackground(true);
-    QPalette black = client->palette();
-    black.setColor(QPalette::Window, gui::ToQColor(m.Form1.back() == White ? Black : m.Form1.back()));
-    client->setPalette(black);
     setCentralWidget(client);
 
     auto* page = new QWidget(client);
@@ -183,6 +180,13 @@ void MainWindow::showForm() {
 
     const QString title = QString::fromStdString(form.title());
     if (windowTitle() != title) setWindowTitle(title);
+    QWidget* client = centralWidget();
+    const QColor back = gui::ToQColor(form.back());
+    if (client->palette().color(QPalette::Window) != back) {
+        QPalette palette = client->palette();
+        palette.setColor(QPalette::Window, back);
+        client->setPalette(palette);
+    }
 
     Qt::WindowStates states = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
     if (form.state() == WindowState::Minimised) states |= Qt::WindowMinimized;
