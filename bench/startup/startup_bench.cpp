@@ -1,6 +1,8 @@
 // Start-up of the program against a bare Qt program: time from the start of
 // the process to its window painted, and the peak resident memory, over
-// several runs of each, taken in turns so that both see the same machine.
+// several runs of each, taken in turns so that all see the same machine. The
+// second yardstick draws one line of text, which shows what any window with
+// text pays before it has a widget of its own.
 //
 //   vantorel-startup-bench [RUNS]     (default 15; QT_QPA_PLATFORM defaults to offscreen)
 
@@ -27,7 +29,7 @@ struct Run {
     bool ok = false;
 };
 
-Run Once(const char* program) {
+Run Once(const char* program, const char* option) {
     Run run;
     int out[2];
     if (pipe(out) != 0) return run;
@@ -35,7 +37,7 @@ Run Once(const char* program) {
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, out[1], STDOUT_FILENO);
     posix_spawn_file_actions_addclose(&actions, out[0]);
-    char* argv[] = {const_cast<char*>(program), nullptr};
+    char* argv[] = {const_cast<char*>(program), const_cast<char*>(option), nullptr};
 
     const auto start = std::chrono::steady_clock::now();
     pid_t pid = 0;
@@ -74,29 +76,46 @@ template <typename T> T Median(std::vector<T> v) {
 int main(int argc, char* argv[]) {
     const int runs = argc > 1 ? std::max(1, std::atoi(argv[1])) : 15;
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    const char* programs[2] = {VANTOREL_PROBE, BARE_PROBE};
-    std::vector<double> times[2];
-    std::vector<long> memory[2];
-    // One unmeasured run each, so that both start from a warm file cache.
-    for (const char* program : programs)
-        Once(program);
+    struct Program {
+        const char* name;
+        const char* path;
+        const char* option;
+    };
+    const Program programs[] = {
+        {"vantorel", VANTOREL_PROBE, nullptr},
+        {"bare Qt", BARE_PROBE, nullptr},
+        {"bare+text", BARE_PROBE, "--label"},
+    };
+    constexpr int count = sizeof programs / sizeof programs[0];
+    std::vector<double> times[count];
+    std::vector<long> memory[count];
+    // One unmeasured run each, so that all start from a warm file cache.
+    for (const Program& p : programs)
+        Once(p.path, p.option);
     for (int i = 0; i < runs; ++i) {
-        for (int p = 0; p < 2; ++p) {
-            const Run run = Once(programs[p]);
+        for (int p = 0; p < count; ++p) {
+            const Run run = Once(programs[p].path, programs[p].option);
             if (!run.ok) {
-                std::fprintf(stderr, "%s did not paint its window\n", programs[p]);
+                std::fprintf(stderr, "%s did not paint its window\n", programs[p].name);
                 return EXIT_FAILURE;
             }
             times[p].push_back(run.milliseconds);
             memory[p].push_back(run.peakKilobytes);
         }
     }
-    const double time[2] = {Median(times[0]), Median(times[1])};
-    const long peak[2] = {Median(memory[0]), Median(memory[1])};
+    double time[count];
+    long peak[count];
+    for (int p = 0; p < count; ++p) {
+        time[p] = Median(times[p]);
+        peak[p] = Median(memory[p]);
+    }
     std::printf("runs: %d each, medians\n", runs);
-    std::printf("%-10s %9s %12s\n", "", "ms", "peak KiB");
-    std::printf("%-10s %9.1f %12ld\n", "vantorel", time[0], peak[0]);
-    std::printf("%-10s %9.1f %12ld\n", "bare Qt", time[1], peak[1]);
-    std::printf("ratio      %9.2f %12.2f\n", time[0] / time[1], static_cast<double>(peak[0]) / peak[1]);
+    std::printf("%-24s %9s %12s\n", "", "ms", "peak KiB");
+    for (int p = 0; p < count; ++p)
+        std::printf("%-24s %9.1f %12ld\n", programs[p].name, time[p], peak[p]);
+    std::printf("%-24s %9.2f %12.2f\n", "ratio vantorel/bare Qt", time[0] / time[1],
+                static_cast<double>(peak[0]) / static_cast<double>(peak[1]));
+    std::printf("%-24s %9.2f %12.2f\n", "ratio vantorel/bare+text", time[0] / time[2],
+                static_cast<double>(peak[0]) / static_cast<double>(peak[2]));
     return EXIT_SUCCESS;
 }
