@@ -67,6 +67,10 @@ MainWindow::MainWindow(Calculator& c, QWidget* parent)
     showForm();
 }
 
+// The calculator may outlive its window; the controls' views guard their
+// widgets themselves.
+MainWindow::~MainWindow() { m_c.main.Form1.setView(nullptr); }
+
 void MainWindow::buildMiddle(QWidget* page) {
     MainSelection& m = m_c.main;
 

@@ -21,6 +21,7 @@ class MainWindow final : public QMainWindow {
 
   public:
     explicit MainWindow(Calculator& c, QWidget* parent = nullptr);
+    ~MainWindow() override;
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
