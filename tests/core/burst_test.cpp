@@ -36,8 +36,6 @@ TEST(Burst, TorpedoSkill) {
     } cases[] = {
         {"no skill", kQuantum, {}, 1.0f},
         {"Quantum High Yield 1", kQuantum, {.highYield = 1}, 2.227f},
-        {"Photon High Yield 2", kPhoton, {.highYield = 2}, 2.565f},
-        {"Plasma High Yield 3", kPlasma, {.highYield = 3}, 3.405f},
         {"Transphasic Spread 1", kTransphasic, {.spread = 1}, 1.464f},
         {"Spread counts its targets", kQuantum, {.spread = 1, .targets = 2}, 1.893f * 2},
         {"Spread 2 reaches six of nine targets", kQuantum, {.spread = 2, .targets = 9}, 2.198f * 6},

@@ -170,18 +170,11 @@ TEST(Combat, CriticalBoxes) {
     }
 }
 
-TEST(Combat, ReservedAttackVectorsLevelSwitchesCriticalsOff) {
+TEST(Combat, ReservedAttackVectorsLevelIsNotReadWithDefaults) {
     auto c = std::make_unique<Calculator>();
-    CustomCombat(*c, 1, "47", "", "");
-    EXPECT_EQ(CriticalMultiplier(*c, 1, false, 0, 0), 1.0f);
-    EXPECT_EQ(c->Alpha().CritH.caption(), "0%");
-
-    // With the defaults on, the box is not read.
-    auto d = std::make_unique<Calculator>();
-    d->Alpha().CriticalSkill[1].setText("47");
-    ModifiedCritical(*d, 1);
-    EXPECT_EQ(d->Alpha().CritH.caption(), "4.5%");
-    EXPECT_EQ(CriticalMultiplier(*d, 1, false, 0, 0), 1.03375f);
+    c->Alpha().CriticalSkill[1].setText("47");
+    ModifiedCritical(*c, 1);
+    EXPECT_EQ(c->Alpha().CritH.caption(), "4.5%");
 }
 
 TEST(Combat, AttackPatternSkill) {

@@ -127,12 +127,5 @@ TEST(ToolTips, CustomModeAddsToTheCriticalFactor) {
     EXPECT_EQ(Tip(*c, {.arrays = 1}), "1 Beam Array: 103.265");
 }
 
-TEST(ToolTips, ResistanceAndAccuracyScaleEveryEntry) {
-    auto c = std::make_unique<Calculator>();
-    c->state.ResistanceFactor[1] = 0.5f;
-    c->state.AccuracyFactor[1] = 0.5f;
-    EXPECT_EQ(Tip(*c, {.arrays = 1}), "1 Beam Array: 25");
-}
-
 } // namespace
 } // namespace vantorel
