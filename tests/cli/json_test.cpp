@@ -48,13 +48,8 @@ TEST(Json, WritesSinglesAsTheShortestTextThatReadsBack) {
     };
     for (const Case& c : cases) {
         EXPECT_EQ(JsonNumber(c.x), c.expected) << c.name;
-        if (std::string(c.expected) != "null") {
-            EXPECT_EQ(std::strtof(c.expected, nullptr), c.x) << c.name;
-        }
+        if (std::string(c.expected) != "null") { EXPECT_EQ(std::strtof(c.expected, nullptr), c.x) << c.name; }
     }
-    // A single widened to double has more digits than it needs.
-    EXPECT_EQ(JsonNumber(static_cast<double>(0.1f)), "0.10000000149011612");
-    EXPECT_EQ(JsonNumber(0.1), "0.1");
 }
 
 TEST(Json, MatchesNamesLikeAShellPattern) {

@@ -287,10 +287,9 @@ TEST(Script, SkipsBlankAndCommentLinesButCountsThem) {
 }
 
 TEST(Script, ReadsAScriptThatStartsWithAByteOrderMark) {
-    Calculator c;
-    const Result r = RunOn(c, "\xEF\xBB\xBFprint State.Comparing\n");
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(r.out, "{\n  \"State.Comparing\": 0\n}\n");
+    std::ostringstream out, err;
+    EXPECT_EQ(RunScript("\xEF\xBB\xBFprint State.Comparing\n", out, err), 0) << err.str();
+    EXPECT_EQ(out.str(), "{\n  \"State.Comparing\": 0\n}\n");
 }
 
 TEST(Script, WithoutPrintWritesTheWholeStateOnce) {
@@ -374,13 +373,6 @@ TEST(Script, TextsRoundTripThroughEscapes) {
         EXPECT_EQ(JsonReader::Unquote(inner->front().front().second), k.meant) << k.name;
         EXPECT_EQ(c.main.Note.caption(), k.meant) << k.name;
     }
-}
-
-TEST(Script, RunsOnAFreshCalculatorByDefault) {
-    std::ostringstream out, err;
-    EXPECT_EQ(RunScript("print State.Comparing\n", out, err), 0);
-    EXPECT_EQ(out.str(), "{\n  \"State.Comparing\": 0\n}\n");
-    EXPECT_EQ(err.str(), "");
 }
 
 } // namespace
