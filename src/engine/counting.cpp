@@ -1,5 +1,8 @@
 #include "engine/calculator.h"
 
+#include <array>
+#include <utility>
+
 namespace vantorel {
 
 namespace {
@@ -18,36 +21,36 @@ enum Slot {
     ShuttleBeamArrays = 11,
 };
 
-struct Prefixes {
-    std::string energy;
-    std::string projectile;
+// The item texts carry the damage type of the vessel, so a port only counts
+// while its text matches the vessel's current types exactly. The texts are
+// made once per count, not once per port.
+struct ItemNames {
+    std::array<std::pair<Slot, std::string>, 8> forward;
+    std::array<std::pair<Slot, std::string>, 4> rear;
 };
 
-// The item texts carry the damage type of the vessel, so a port only counts
-// while its text matches the vessel's current types exactly.
-int ForwardSlot(const std::string& text, const Prefixes& p) {
-    const std::pair<Slot, std::string> order[] = {
-        {DualHeavyCannons, p.energy + "Dual Heavy Cannons"},
-        {DualCannons, p.energy + "Dual Cannons"},
-        {DualBeamBanks, "Dual " + p.energy + "Beam Bank"},
-        {Cannons, p.energy + "Cannon"},
-        {ForwardBeamArrays, p.energy + "Beam Array"},
-        {Turrets, p.energy + "Turret"},
-        {ForwardTorpedoes, p.projectile + "Torpedo Launcher"},
-        {ShuttleBeamArrays, "Shuttle " + p.energy + "Beam Array"},
-    };
-    for (const auto& [slot, name] : order)
-        if (text == name) return slot;
-    return 0;
+ItemNames NamesOf(const Calculator& c, Vessel v) {
+    const std::string e = GetDamageType(c, v, 1);
+    const std::string p = GetDamageType(c, v, 2);
+    return ItemNames{{{
+                         {DualHeavyCannons, e + "Dual Heavy Cannons"},
+                         {DualCannons, e + "Dual Cannons"},
+                         {DualBeamBanks, "Dual " + e + "Beam Bank"},
+                         {Cannons, e + "Cannon"},
+                         {ForwardBeamArrays, e + "Beam Array"},
+                         {Turrets, e + "Turret"},
+                         {ForwardTorpedoes, p + "Torpedo Launcher"},
+                         {ShuttleBeamArrays, "Shuttle " + e + "Beam Array"},
+                     }},
+                     {{
+                         {RearBeamArrays, e + "Beam Array"},
+                         {Turrets, e + "Turret"},
+                         {RearTorpedoes, p + "Torpedo Launcher"},
+                         {Mines, p + "Mine Launcher"},
+                     }}};
 }
 
-int RearSlot(const std::string& text, const Prefixes& p) {
-    const std::pair<Slot, std::string> order[] = {
-        {RearBeamArrays, p.energy + "Beam Array"},
-        {Turrets, p.energy + "Turret"},
-        {RearTorpedoes, p.projectile + "Torpedo Launcher"},
-        {Mines, p.projectile + "Mine Launcher"},
-    };
+template <std::size_t N> int SlotOf(const std::string& text, const std::array<std::pair<Slot, std::string>, N>& order) {
     for (const auto& [slot, name] : order)
         if (text == name) return slot;
     return 0;
@@ -61,16 +64,16 @@ void CountWeapons(Calculator& c) {
         for (Vessel v = 1; v <= 2; ++v)
             s.WeaponCount[slot][v] = 0;
 
-    const PerVessel<Prefixes> prefixes{{Prefixes{GetDamageType(c, 1, 1), GetDamageType(c, 1, 2)},
-                                        Prefixes{GetDamageType(c, 2, 1), GetDamageType(c, 2, 2)}}};
+    const ItemNames alpha = NamesOf(c, 1);
+    const ItemNames omega = NamesOf(c, 2);
     auto add = [&s](int slot, Vessel v) {
         if (slot > 0) ++s.WeaponCount[slot][v];
     };
     for (int i = 1; i <= 4; ++i) {
-        add(ForwardSlot(c.main.Forward[i].text(), prefixes[1]), 1);
-        add(ForwardSlot(c.main.CForward[i].text(), prefixes[2]), 2);
-        add(RearSlot(c.main.Rear[i].text(), prefixes[1]), 1);
-        add(RearSlot(c.main.CRear[i].text(), prefixes[2]), 2);
+        add(SlotOf(c.main.Forward[i].text(), alpha.forward), 1);
+        add(SlotOf(c.main.CForward[i].text(), omega.forward), 2);
+        add(SlotOf(c.main.Rear[i].text(), alpha.rear), 1);
+        add(SlotOf(c.main.CRear[i].text(), omega.rear), 2);
     }
 }
 

@@ -80,6 +80,40 @@ Curve CurveOf(int count, int kind) {
     return kByCount[count - 2][kind - 1];
 }
 
+double ReadCurve(const CalculatorState& s, int power, int kind, int count) {
+    const double* k = s.DPWCoefficient[kind][count];
+    const double p = power;
+    // std::pow, not repeated products, and strictly left-to-right sums: the
+    // last digit of the rounded result depends on both.
+    double sum = k[1] * std::pow(p, 4.0);
+    sum = sum + k[2] * std::pow(p, 3.0);
+    sum = sum + k[3] * std::pow(p, 2.0);
+    sum = sum + k[4] * p;
+    sum = sum + k[5];
+    return Round(sum, 3);
+}
+
+// The curves read at every whole power 35..125: [power - 35][kind - 1][count - 2].
+struct CurveValues {
+    double at[91][6][7];
+};
+
+// Every DPS of every arc reads the curves, so they are read once, from the
+// same constant table the start-up fills the state with.
+const CurveValues& ReadCurves() {
+    static const CurveValues values = [] {
+        CalculatorState tables;
+        FillDPWTables(tables);
+        CurveValues v{};
+        for (int power = 35; power <= 125; ++power)
+            for (int kind = 1; kind <= 6; ++kind)
+                for (int count = 2; count <= 8; ++count)
+                    v.at[power - 35][kind - 1][count - 2] = ReadCurve(tables, power, kind, count);
+        return v;
+    }();
+    return values;
+}
+
 } // namespace
 
 void FillDPWTables(CalculatorState& s) {
@@ -109,17 +143,9 @@ DPW DPWCalc(const CalculatorState& s, int power, int kind, int count) {
         out.single = static_cast<float>(p * static_cast<double>(s.SingleWeaponDPW[kind]) / 100.0);
         return out;
     }
-    const double* k = s.DPWCoefficient[kind][count];
-    const double p = power;
-    // std::pow, not repeated products, and strictly left-to-right sums: the
-    // last digit of the rounded result depends on both.
-    double sum = k[1] * std::pow(p, 4.0);
-    sum = sum + k[2] * std::pow(p, 3.0);
-    sum = sum + k[3] * std::pow(p, 2.0);
-    sum = sum + k[4] * p;
-    sum = sum + k[5];
     out.type = DPW::Type::Double;
-    out.dbl = Round(sum, 3);
+    out.dbl = power >= 35 && power <= 125 ? ReadCurves().at[power - 35][kind - 1][count - 2]
+                                          : ReadCurve(s, power, kind, count);
     return out;
 }
 

@@ -22,7 +22,7 @@ int SnapToTested(int p) {
 
 // The setting in a power row: the leading number of its first three
 // characters ("100 (115) est." is setting 100).
-int SettingOfRow(const std::string& text) { return WholeNumber(LeadingValue(text.substr(0, 3))); }
+int SettingOfRow(const std::string& text) { return WholeNumber(LeadingValue(std::string_view(text).substr(0, 3))); }
 
 bool Extrapolates(const Calculator& c, Vessel v) { return c.settings[v].ExtrapolatePower.value() == 1; }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <optional>
 #include <string>
 
@@ -88,6 +89,30 @@ TEST(Numbers, PlainAndSignedText) {
     };
     for (const Case& c : cases)
         EXPECT_EQ(c.got, c.expected) << c.name;
+}
+
+// The quick writer of plain text must agree with the general form at 7 and
+// 15 significant digits over the values results take.
+TEST(Numbers, PlainTextIsTheGeneralForm) {
+    auto general = [](double x, int digits) {
+        char buf[64];
+        auto res = std::to_chars(buf, buf + sizeof buf, x, std::chars_format::general, digits);
+        std::string s(buf, res.ptr);
+        for (char& ch : s)
+            if (ch == 'e') ch = 'E';
+        return s;
+    };
+    int checked = 0;
+    for (int i = -20000; i <= 400000; i += 7) {
+        const float f = Round(static_cast<float>(i) / 1000.0f + 0.0004f * static_cast<float>(i % 3), 3);
+        ASSERT_EQ(PlainText(f), general(static_cast<double>(f), 7)) << i;
+        const double d = static_cast<double>(i) / 1000.0 + 1.0 / 3.0;
+        ASSERT_EQ(PlainText(d), general(d, 15)) << i;
+        ++checked;
+    }
+    for (float f : {1e-5f, 0.0001f, 1234567.5f, 12345678.0f, 1e7f, 0.00012345678f, -0.5f, 3.4e38f})
+        EXPECT_EQ(PlainText(f), general(static_cast<double>(f), 7)) << f;
+    EXPECT_GT(checked, 1000);
 }
 
 TEST(Numbers, ShortestTextReadsBackToTheSameSingle) {
