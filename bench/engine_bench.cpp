@@ -84,14 +84,16 @@ void NumbersOnly(benchmark::State& state) {
             auto n = [&](int slot) { return static_cast<int>(s.WeaponCount[slot][v]); };
             const int power = GetPowerLevel(*c, v, true);
             const int distance = GetRange(*c, v);
+            // As the recalculation does: the vessel's factors once, then the rows.
+            const VesselFactors f = FactorsOf(*c, v);
             s.ArcDPS[6][v] = CalculateBurst(*c, n(8), 0, n(3), n(5), n(11), v);
             s.ArcDPS[7][v] = CalculateBurst(*c, n(9), n(10), 0, n(7), n(11), v);
-            s.ArcDPS[0][v] = CalculateDPS(*c, n(1), n(2), n(3), n(4), n(5), n(6), n(11), power, distance, v, false);
-            s.ArcDPS[1][v] = CalculateDPS(*c, 0, 0, n(3), n(4), n(5), n(6), n(11), power, distance, v, false);
-            s.ArcDPS[2][v] = CalculateDPS(*c, 0, 0, 0, n(4), n(5), n(6), n(11), power, distance, v, false);
-            s.ArcDPS[3][v] = CalculateDPS(*c, 0, 0, 0, n(4), n(5) + n(7), n(6), n(11), power, distance, v, false);
-            s.ArcDPS[4][v] = CalculateDPS(*c, 0, 0, 0, 0, n(5) + n(7), n(6), n(11), power, distance, v, false);
-            s.ArcDPS[5][v] = CalculateDPS(*c, 0, 0, 0, 0, n(7), n(6), n(11), power, distance, v, false);
+            s.ArcDPS[0][v] = CalculateDPS(*c, f, n(1), n(2), n(3), n(4), n(5), n(6), n(11), power, distance, v, false);
+            s.ArcDPS[1][v] = CalculateDPS(*c, f, 0, 0, n(3), n(4), n(5), n(6), n(11), power, distance, v, false);
+            s.ArcDPS[2][v] = CalculateDPS(*c, f, 0, 0, 0, n(4), n(5), n(6), n(11), power, distance, v, false);
+            s.ArcDPS[3][v] = CalculateDPS(*c, f, 0, 0, 0, n(4), n(5) + n(7), n(6), n(11), power, distance, v, false);
+            s.ArcDPS[4][v] = CalculateDPS(*c, f, 0, 0, 0, 0, n(5) + n(7), n(6), n(11), power, distance, v, false);
+            s.ArcDPS[5][v] = CalculateDPS(*c, f, 0, 0, 0, 0, n(7), n(6), n(11), power, distance, v, false);
         }
         benchmark::DoNotOptimize(s.ArcDPS[5][2]);
     }

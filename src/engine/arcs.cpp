@@ -88,13 +88,17 @@ void ComputeAndShowRows(Calculator& c, Vessel v) {
     CalculatorState& s = c.state;
     MainSelection& m = c.main;
     const int distance = GetRange(c, v);
+    // Nothing that the factors or the power read changes while the rows are
+    // worked out, so both are read once for all six rows.
+    const VesselFactors factors = FactorsOf(c, v);
+    const int power = GetPowerLevel(c, v, true);
     std::string tips[6];
     for (int row = 0; row <= 5; ++row) {
         const RowCounts r = CountsOfRow(s, v, row);
-        s.ArcDPS[row][v] = CalculateDPS(c, r.dhc, r.dc, r.dbb, r.cannons, r.beamArrays, r.turrets, r.shuttles,
-                                        GetPowerLevel(c, v, true), distance, v, false);
-        tips[row] = CalculateToolTip(c, r.dhc, r.dc, r.dbb, r.cannons, r.beamArrays, r.turrets, r.shuttles,
-                                     GetPowerLevel(c, v, true), distance, v);
+        s.ArcDPS[row][v] = CalculateDPS(c, factors, r.dhc, r.dc, r.dbb, r.cannons, r.beamArrays, r.turrets, r.shuttles,
+                                        power, distance, v, false);
+        tips[row] = CalculateToolTip(c, factors, r.dhc, r.dc, r.dbb, r.cannons, r.beamArrays, r.turrets, r.shuttles,
+                                     power, distance, v);
     }
 
     Indexed<Label, 0, 13>& boxes = v == 1 ? m.FiringArcDPS : m.CFiringArcDPS;

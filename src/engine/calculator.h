@@ -37,6 +37,20 @@ float CannonSkillModifier(const Calculator& c, Vessel v, bool turret);
 float SkillPoints(int table, int level);
 float CriticalMultiplier(const Calculator& c, Vessel v, bool boosted, float chance, float severity);
 int GetRange(const Calculator& c, Vessel v);
+// The factors of the formula that depend on the vessel and not on its
+// weapons. A recalculation works them out once per vessel and hands them to
+// every row's DPS and tooltip; they cannot change in between.
+struct VesselFactors {
+    float beamSkill = 1.0f;
+    float cannonSkill = 1.0f;
+    float turretSkill = 1.0f;
+    float critical = 1.0f;        // CriticalMultiplier(v, false, 0, 0)
+    float criticalBoosted = 1.0f; // CriticalMultiplier(v, true, 0, 0)
+};
+VesselFactors FactorsOf(const Calculator& c, Vessel v);
+float CalculateDPS(Calculator& c, const VesselFactors& f, int dualHeavyCannons, int dualCannons, int dualBeamBanks,
+                   int cannons, int beamArrays, int turrets, int shuttleBeamArrays, int power, int distance, Vessel v,
+                   bool noSkills);
 float CalculateDPS(Calculator& c, int dualHeavyCannons, int dualCannons, int dualBeamBanks, int cannons, int beamArrays,
                    int turrets, int shuttleBeamArrays, int power, int distance, Vessel v, bool noSkills);
 
@@ -149,6 +163,9 @@ void HideCompareClicked(Calculator& c);
 void FitWindow(Calculator& c);
 
 // ---- Results tooltips (mainwindow/tooltips.cpp) ---------------------------
+std::string CalculateToolTip(Calculator& c, const VesselFactors& f, int dualHeavyCannons, int dualCannons,
+                             int dualBeamBanks, int cannons, int beamArrays, int turrets, int shuttleBeamArrays,
+                             int power, int distance, Vessel v);
 std::string CalculateToolTip(Calculator& c, int dualHeavyCannons, int dualCannons, int dualBeamBanks, int cannons,
                              int beamArrays, int turrets, int shuttleBeamArrays, int power, int distance, Vessel v);
 

@@ -142,21 +142,42 @@ int GetRange(const Calculator& c, Vessel v) {
     return std::max(index, 0);
 }
 
+VesselFactors FactorsOf(const Calculator& c, Vessel v) {
+    VesselFactors f;
+    f.beamSkill = BeamSkillModifier(c, v);
+    f.cannonSkill = CannonSkillModifier(c, v, false);
+    f.turretSkill = CannonSkillModifier(c, v, true);
+    f.critical = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
+    f.criticalBoosted = CriticalMultiplier(c, v, true, 0.0f, 0.0f);
+    return f;
+}
+
 float CalculateDPS(Calculator& c, int dualHeavyCannons, int dualCannons, int dualBeamBanks, int cannons, int beamArrays,
                    int turrets, int shuttleBeamArrays, int power, int distance, Vessel v, bool noSkills) {
-    float beamSkill = 1.0f, cannonSkill = 1.0f, turretSkill = 1.0f;
+    VesselFactors f;
     if (!noSkills) {
-        beamSkill = BeamSkillModifier(c, v);
-        cannonSkill = CannonSkillModifier(c, v, false);
-        turretSkill = CannonSkillModifier(c, v, true);
+        f = FactorsOf(c, v);
+    } else {
+        f.critical = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
+        f.criticalBoosted = CriticalMultiplier(c, v, true, 0.0f, 0.0f);
     }
+    return CalculateDPS(c, f, dualHeavyCannons, dualCannons, dualBeamBanks, cannons, beamArrays, turrets,
+                        shuttleBeamArrays, power, distance, v, noSkills);
+}
+
+float CalculateDPS(Calculator& c, const VesselFactors& f, int dualHeavyCannons, int dualCannons, int dualBeamBanks,
+                   int cannons, int beamArrays, int turrets, int shuttleBeamArrays, int power, int distance, Vessel v,
+                   bool noSkills) {
+    const float beamSkill = noSkills ? 1.0f : f.beamSkill;
+    const float cannonSkill = noSkills ? 1.0f : f.cannonSkill;
+    const float turretSkill = noSkills ? 1.0f : f.turretSkill;
     const float beamRange = GetRangeMod(distance, 1);
     const float cannonRange = GetRangeMod(distance, 2);
     const int total =
         dualHeavyCannons + dualCannons + dualBeamBanks + cannons + beamArrays + turrets + shuttleBeamArrays;
 
-    float crit = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
-    float critBoosted = CriticalMultiplier(c, v, true, 0.0f, 0.0f);
+    float crit = f.critical;
+    float critBoosted = f.criticalBoosted;
     if (!RelativeMode(c)) {
         crit = static_cast<float>(crit * 1.03375);
         critBoosted = static_cast<float>(critBoosted * 1.03375);

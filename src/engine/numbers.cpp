@@ -4,42 +4,105 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <type_traits>
 
 namespace vantorel {
 
 namespace {
 
 double PowerOfTen(int n) {
+    static constexpr double kPowers[] = {1.0, 10.0, 100.0, 1000.0, 10000.0, 100000.0, 1000000.0};
+    if (n >= 0 && n < 7) return kPowers[n];
     double p = 1.0;
     for (int i = 0; i < n; ++i)
         p *= 10.0;
     return p;
 }
 
-// General form with `digits` significant digits, trailing zeros dropped.
-std::string GeneralSlow(double x, int digits) {
+// The text of a number, built in place: results are written thousands of
+// times a second while the user drags through a list, so no step allocates.
+struct Digits {
     char buf[64];
-    auto res = std::to_chars(buf, buf + sizeof buf, x, std::chars_format::general, digits);
-    std::string s(buf, res.ptr);
-    // "1e+07" style exponents: write as the program's own "1E+07".
-    for (auto& ch : s) {
-        if (ch == 'e') ch = 'E';
-    }
-    return s;
+    int len = 0;
+    std::string_view view() const { return {buf, static_cast<std::size_t>(len)}; }
+};
+
+// General form with `digits` significant digits, trailing zeros dropped, and
+// the program's own "1E+07" for exponents.
+Digits GeneralSlow(double x, int digits) {
+    Digits d;
+    auto res = std::to_chars(d.buf, d.buf + sizeof d.buf, x, std::chars_format::general, digits);
+    d.len = static_cast<int>(res.ptr - d.buf);
+    for (int i = 0; i < d.len; ++i)
+        if (d.buf[i] == 'e') d.buf[i] = 'E';
+    return d;
 }
 
-// The shortest text that reads back to the same value has at most `digits`
-// significant digits in nearly every case the program meets (its numbers are
-// rounded to three decimals), and then it is the general form as well: the
-// value lies within half a unit of its last place of that text. Writing the
-// shortest text is several times faster, and results are written thousands
-// of times a second while the user drags through a list.
-template <typename T> std::string General(T x, int digits) {
-    if (x == 0) return "0";
-    char buf[64];
-    auto res = std::to_chars(buf, buf + sizeof buf, x, std::chars_format::fixed);
+// Results are rounded to three decimals; such a value is written straight
+// from its thousandths. That is the general form at 7 digits whenever the
+// text reads back to the same single and has at most 7 significant digits:
+// the value then lies within half a unit of the text's last place.
+bool ThreeDecimals(float x, Digits& out) {
+    const double scaled = std::nearbyint(static_cast<double>(x) * 1000.0);
+    if (!(std::fabs(scaled) < 1e9)) return false;
+    if (static_cast<float>(scaled / 1000.0) != x) return false;
+    long long thousandths = static_cast<long long>(scaled);
+    const bool negative = thousandths < 0;
+    if (negative) thousandths = -thousandths;
+    long long whole = thousandths / 1000;
+    int fraction = static_cast<int>(thousandths % 1000);
+    char buf[32];
+    char* end = buf + sizeof buf;
+    char* p = end;
+    int decimals = 3;
+    while (decimals > 0 && fraction % 10 == 0) {
+        fraction /= 10;
+        --decimals;
+    }
+    for (int i = 0; i < decimals; ++i) {
+        *--p = static_cast<char>('0' + fraction % 10);
+        fraction /= 10;
+    }
+    if (decimals > 0) *--p = '.';
+    int integerDigits = 0;
+    do {
+        *--p = static_cast<char>('0' + whole % 10);
+        whole /= 10;
+        ++integerDigits;
+    } while (whole > 0);
+    const bool belowOne = integerDigits == 1 && p[0] == '0';
+    int significant = belowOne ? 0 : integerDigits + decimals;
+    if (belowOne) {
+        // 0.005, 0.05 and 0.5 have one significant digit, 0.123 three.
+        bool seen = false;
+        for (const char* q = p + 2; q < end; ++q) {
+            if (*q != '0') seen = true;
+            if (seen) ++significant;
+        }
+    }
+    if (significant > 7) return false;
+    if (negative) *--p = '-';
+    out.len = static_cast<int>(end - p);
+    std::copy(p, end, out.buf);
+    return true;
+}
+
+// The shortest text that reads back to the same value is the general form
+// too when it has at most `digits` significant digits and a plain exponent,
+// and writing it is several times faster than the general formatter.
+template <typename T> Digits General(T x, int digits) {
+    Digits d;
+    if (x == 0) {
+        d.buf[0] = '0';
+        d.len = 1;
+        return d;
+    }
+    if constexpr (std::is_same_v<T, float>) {
+        if (digits == 7 && ThreeDecimals(x, d)) return d;
+    }
+    auto res = std::to_chars(d.buf, d.buf + sizeof d.buf, x, std::chars_format::fixed);
     if (res.ec != std::errc()) return GeneralSlow(static_cast<double>(x), digits);
-    const char* p = buf;
+    const char* p = d.buf;
     if (*p == '-') ++p;
     int integerDigits = 0;
     while (p < res.ptr && *p != '.') {
@@ -63,19 +126,33 @@ template <typename T> std::string General(T x, int digits) {
         seenDigit = true;
         ++significant;
     }
-    if (significant <= digits && exponent >= -4 && exponent < digits) return std::string(buf, res.ptr);
+    if (significant <= digits && exponent >= -4 && exponent < digits) {
+        d.len = static_cast<int>(res.ptr - d.buf);
+        return d;
+    }
     return GeneralSlow(static_cast<double>(x), digits);
 }
 
-std::string Signed(std::string plain) {
-    if (plain.empty()) return plain;
-    std::string sign = " ";
-    if (plain[0] == '-') {
-        sign = "-";
-        plain.erase(0, 1);
+// A blank or minus in the sign's place, and no "0" before a fraction.
+std::string Signed(const Digits& plain) {
+    std::string_view digits = plain.view();
+    char sign = ' ';
+    if (!digits.empty() && digits[0] == '-') {
+        sign = '-';
+        digits.remove_prefix(1);
     }
-    if (plain.size() > 1 && plain[0] == '0' && plain[1] == '.') plain.erase(0, 1);
-    return sign + plain;
+    if (digits.size() > 1 && digits[0] == '0' && digits[1] == '.') digits.remove_prefix(1);
+    std::string out;
+    out.reserve(digits.size() + 1);
+    out += sign;
+    out += digits;
+    return out;
+}
+
+Digits IntegerDigits(int x) {
+    Digits d;
+    d.len = static_cast<int>(std::to_chars(d.buf, d.buf + sizeof d.buf, x).ptr - d.buf);
+    return d;
 }
 
 } // namespace
@@ -185,7 +262,12 @@ double LeadingValue(std::string_view text) {
     }
     if (!any) return 0.0;
     double value = 0.0;
-    if (digits[0] == '.') {
+    if (!point && n <= 15) {
+        long long whole = 0;
+        for (std::size_t k = 0; k < n; ++k)
+            whole = whole * 10 + (digits[k] - '0');
+        value = static_cast<double>(whole);
+    } else if (digits[0] == '.') {
         char padded[65] = {'0'};
         std::copy(digits, digits + n, padded + 1);
         std::from_chars(padded, padded + n + 1, value, std::chars_format::fixed);
@@ -195,12 +277,12 @@ double LeadingValue(std::string_view text) {
     return negative ? -value : value;
 }
 
-std::string PlainText(float x) { return General(x, 7); }
-std::string PlainText(double x) { return General(x, 15); }
-std::string PlainText(int x) { return std::to_string(x); }
-std::string SignedText(float x) { return Signed(PlainText(x)); }
-std::string SignedText(double x) { return Signed(PlainText(x)); }
-std::string SignedText(int x) { return Signed(PlainText(x)); }
+std::string PlainText(float x) { return std::string(General(x, 7).view()); }
+std::string PlainText(double x) { return std::string(General(x, 15).view()); }
+std::string PlainText(int x) { return std::string(IntegerDigits(x).view()); }
+std::string SignedText(float x) { return Signed(General(x, 7)); }
+std::string SignedText(double x) { return Signed(General(x, 15)); }
+std::string SignedText(int x) { return Signed(IntegerDigits(x)); }
 
 std::string ShortestText(float x) {
     char buf[64];

@@ -51,14 +51,21 @@ std::string BeamSkillPart(const CalculatorState& s, Vessel v) {
 
 std::string CalculateToolTip(Calculator& c, int dualHeavyCannons, int dualCannons, int dualBeamBanks, int cannons,
                              int beamArrays, int turrets, int shuttleBeamArrays, int power, int distance, Vessel v) {
+    return CalculateToolTip(c, FactorsOf(c, v), dualHeavyCannons, dualCannons, dualBeamBanks, cannons, beamArrays,
+                            turrets, shuttleBeamArrays, power, distance, v);
+}
+
+std::string CalculateToolTip(Calculator& c, const VesselFactors& f, int dualHeavyCannons, int dualCannons,
+                             int dualBeamBanks, int cannons, int beamArrays, int turrets, int shuttleBeamArrays,
+                             int power, int distance, Vessel v) {
     const CalculatorState& s = c.state;
-    const float beamSkill = BeamSkillModifier(c, v);
-    const float cannonSkill = CannonSkillModifier(c, v, false);
-    const float turretSkill = CannonSkillModifier(c, v, true);
+    const float beamSkill = f.beamSkill;
+    const float cannonSkill = f.cannonSkill;
+    const float turretSkill = f.turretSkill;
     const float beamRange = GetRangeMod(distance, 1);
     const float cannonRange = GetRangeMod(distance, 2);
-    float boosted = CriticalMultiplier(c, v, true, 0.0f, 0.0f);
-    float plain = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
+    float boosted = f.criticalBoosted;
+    float plain = f.critical;
     // An addition where the DPS multiplies by 1.03375: the parts of a custom
     // tooltip need not add up to the box.
     if (c.Alpha().RelativeDPS.value() == 0) {
