@@ -154,13 +154,18 @@ VesselFactors FactorsOf(const Calculator& c, Vessel v) {
 
 float CalculateDPS(Calculator& c, int dualHeavyCannons, int dualCannons, int dualBeamBanks, int cannons, int beamArrays,
                    int turrets, int shuttleBeamArrays, int power, int distance, Vessel v, bool noSkills) {
+    // Only the factors that a weapon in the set asks for: a lone overloading
+    // beam, the most frequent single call, needs neither cannon factor.
+    const bool anyCannon = dualHeavyCannons + dualCannons + cannons > 0;
     VesselFactors f;
     if (!noSkills) {
-        f = FactorsOf(c, v);
-    } else {
-        f.critical = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
-        f.criticalBoosted = CriticalMultiplier(c, v, true, 0.0f, 0.0f);
+        if (dualBeamBanks + beamArrays + shuttleBeamArrays > 0) f.beamSkill = BeamSkillModifier(c, v);
+        if (anyCannon) f.cannonSkill = CannonSkillModifier(c, v, false);
+        if (turrets > 0) f.turretSkill = CannonSkillModifier(c, v, true);
     }
+    if (dualCannons + dualBeamBanks + cannons + beamArrays + turrets + shuttleBeamArrays > 0)
+        f.critical = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
+    if (dualHeavyCannons > 0) f.criticalBoosted = CriticalMultiplier(c, v, true, 0.0f, 0.0f);
     return CalculateDPS(c, f, dualHeavyCannons, dualCannons, dualBeamBanks, cannons, beamArrays, turrets,
                         shuttleBeamArrays, power, distance, v, noSkills);
 }

@@ -134,7 +134,7 @@ template <typename T> Digits General(T x, int digits) {
 }
 
 // A blank or minus in the sign's place, and no "0" before a fraction.
-std::string Signed(const Digits& plain) {
+void AppendSigned(std::string& out, const Digits& plain) {
     std::string_view digits = plain.view();
     char sign = ' ';
     if (!digits.empty() && digits[0] == '-') {
@@ -142,10 +142,13 @@ std::string Signed(const Digits& plain) {
         digits.remove_prefix(1);
     }
     if (digits.size() > 1 && digits[0] == '0' && digits[1] == '.') digits.remove_prefix(1);
-    std::string out;
-    out.reserve(digits.size() + 1);
     out += sign;
     out += digits;
+}
+
+std::string Signed(const Digits& plain) {
+    std::string out;
+    AppendSigned(out, plain);
     return out;
 }
 
@@ -283,6 +286,9 @@ std::string PlainText(int x) { return std::string(IntegerDigits(x).view()); }
 std::string SignedText(float x) { return Signed(General(x, 7)); }
 std::string SignedText(double x) { return Signed(General(x, 15)); }
 std::string SignedText(int x) { return Signed(IntegerDigits(x)); }
+
+void AppendPlainText(std::string& out, int x) { out += IntegerDigits(x).view(); }
+void AppendSignedText(std::string& out, float x) { AppendSigned(out, General(x, 7)); }
 
 std::string ShortestText(float x) {
     char buf[64];

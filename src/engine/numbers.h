@@ -43,6 +43,10 @@ std::string SignedText(float x);
 std::string SignedText(double x);
 std::string SignedText(int x);
 
+// The same texts appended to `out`, for texts built of many numbers.
+void AppendPlainText(std::string& out, int x);
+void AppendSignedText(std::string& out, float x);
+
 // Shortest decimal that reads back to the same single (for JSON output).
 std::string ShortestText(float x);
 std::string ShortestText(double x);

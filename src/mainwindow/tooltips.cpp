@@ -107,14 +107,14 @@ std::string CalculateToolTip(Calculator& c, const VesselFactors& f, int dualHeav
         std::string& skillPart = k.beam ? beamPart : cannonPart;
         if (skillPart.empty()) skillPart = k.beam ? BeamSkillPart(s, v) : CannonSkillPart(s, v);
         if (text.empty())
-            text.reserve(160);
+            text.reserve(192);
         else
             text += ", ";
-        text += PlainText(k.count);
+        AppendPlainText(text, k.count);
         text += k.word;
         if (k.plural && k.count > 1) text += 's';
         text += skillPart;
-        text += SignedText(value);
+        AppendSignedText(text, value);
     }
     return text;
 }
