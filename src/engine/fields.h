@@ -34,54 +34,14 @@ class Control {
     int width() const { return m_width; }
     int height() const { return m_height; }
 
-    void setEnabled(bool on) {
-        if (m_enabled != on) {
-            m_enabled = on;
-            changed();
-        }
-    }
-    void setVisible(bool on) {
-        if (m_visible != on) {
-            m_visible = on;
-            changed();
-        }
-    }
-    void setBack(Colour c) {
-        if (m_back != c) {
-            m_back = c;
-            changed();
-        }
-    }
-    void setFore(Colour c) {
-        if (m_fore != c) {
-            m_fore = c;
-            changed();
-        }
-    }
-    void setLeft(int twips) {
-        if (m_left != twips) {
-            m_left = twips;
-            changed();
-        }
-    }
-    void setTop(int twips) {
-        if (m_top != twips) {
-            m_top = twips;
-            changed();
-        }
-    }
-    void setWidth(int twips) {
-        if (m_width != twips) {
-            m_width = twips;
-            changed();
-        }
-    }
-    void setHeight(int twips) {
-        if (m_height != twips) {
-            m_height = twips;
-            changed();
-        }
-    }
+    void setEnabled(bool on) { update(m_enabled, on); }
+    void setVisible(bool on) { update(m_visible, on); }
+    void setBack(Colour c) { update(m_back, c); }
+    void setFore(Colour c) { update(m_fore, c); }
+    void setLeft(int twips) { update(m_left, twips); }
+    void setTop(int twips) { update(m_top, twips); }
+    void setWidth(int twips) { update(m_width, twips); }
+    void setHeight(int twips) { update(m_height, twips); }
 
     // The handler runs when the control's value is assigned (see subclasses).
     void setHandler(std::function<void()> handler) { m_handler = std::move(handler); }
@@ -92,6 +52,12 @@ class Control {
   protected:
     void changed() const {
         if (m_view) m_view();
+    }
+    // Assigns a property and tells the view, if the value is new.
+    template <typename T> void update(T& member, T value) {
+        if (member == value) return;
+        member = std::move(value);
+        changed();
     }
     void runHandler() const {
         if (m_handler) m_handler();
@@ -129,18 +95,8 @@ class Flag : public Control {
 
     const std::string& caption() const { return m_caption; }
     const std::string& tooltip() const { return m_tooltip; }
-    void setCaption(std::string s) {
-        if (m_caption != s) {
-            m_caption = std::move(s);
-            changed();
-        }
-    }
-    void setTooltip(std::string s) {
-        if (m_tooltip != s) {
-            m_tooltip = std::move(s);
-            changed();
-        }
-    }
+    void setCaption(std::string s) { update(m_caption, std::move(s)); }
+    void setTooltip(std::string s) { update(m_tooltip, std::move(s)); }
 
   private:
     int m_value = 0;
@@ -162,12 +118,7 @@ class Text : public Control {
         runHandler();
     }
     const std::string& tooltip() const { return m_tooltip; }
-    void setTooltip(std::string s) {
-        if (m_tooltip != s) {
-            m_tooltip = std::move(s);
-            changed();
-        }
-    }
+    void setTooltip(std::string s) { update(m_tooltip, std::move(s)); }
 
   private:
     std::string m_text;
@@ -249,12 +200,7 @@ class List : public Control {
     }
 
     const std::string& tooltip() const { return m_tooltip; }
-    void setTooltip(std::string s) {
-        if (m_tooltip != s) {
-            m_tooltip = std::move(s);
-            changed();
-        }
-    }
+    void setTooltip(std::string s) { update(m_tooltip, std::move(s)); }
 
   private:
     void select(int i) {
@@ -280,18 +226,8 @@ class Label : public Control {
 
     const std::string& caption() const { return m_caption; }
     const std::string& tooltip() const { return m_tooltip; }
-    void setCaption(std::string s) {
-        if (m_caption != s) {
-            m_caption = std::move(s);
-            changed();
-        }
-    }
-    void setTooltip(std::string s) {
-        if (m_tooltip != s) {
-            m_tooltip = std::move(s);
-            changed();
-        }
-    }
+    void setCaption(std::string s) { update(m_caption, std::move(s)); }
+    void setTooltip(std::string s) { update(m_tooltip, std::move(s)); }
 
   private:
     std::string m_caption;
@@ -310,12 +246,7 @@ class Button : public Label {
 class Picture : public Control {
   public:
     const std::string& image() const { return m_image; }
-    void setImage(std::string s) {
-        if (m_image != s) {
-            m_image = std::move(s);
-            changed();
-        }
-    }
+    void setImage(std::string s) { update(m_image, std::move(s)); }
 
   private:
     std::string m_image;
