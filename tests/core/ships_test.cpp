@@ -1,4 +1,4 @@
-#include "catalogue_setup.h"
+#include "support.h"
 
 #include <gtest/gtest.h>
 
