@@ -1,11 +1,11 @@
-#include "engine/calculator.h"
 #include "mainwindow/shipimage.h"
+#include "support.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <set>
-#include <string>
+#include <sstream>
 
 namespace vantorel {
 namespace {
@@ -18,122 +18,51 @@ void ShowLast(Calculator& c) {
     c.main.OmegaImage.setImage(kLast);
 }
 
+// Each class's pictures as "tier/row=name" words; "last" where the table has
+// no row and the last picture stays.
 TEST(ShipImage, EveryRowOfTheShipTableNamesItsPicture) {
     struct Case {
         const char* shipClass;
-        int tier;
-        int row;
-        const char* name;
-        const char* id;
+        const char* pictures;
     } cases[] = {
-        {"Unrestricted", 3, 2, "unrestricted", "Unrestricted"},
-        {"Federation", 1, 0, "ltcru3", "Federation/1/0"},
-        {"Federation", 1, 1, "ltcru2", "Federation/1/1"},
-        {"Federation", 2, 0, "cru2", "Federation/2/0"},
-        {"Federation", 2, 3, "cru2", "Federation/2/3"},
-        {"Federation", 3, 1, "cru3a", "Federation/3/1"},
-        {"Federation", 4, 0, "cru4", "Federation/4/0"},
-        {"Federation", 4, 1, "esc4", "Federation/4/1"},
-        {"Federation", 4, 2, "sci4", "Federation/4/2"},
-        {"Federation", 5, 0, "dreadnought", "Federation/5/0"},
-        {"Federation", 5, 1, "cru5", "Federation/5/1"},
-        {"Cruiser", 1, 0, "ltcru1", "Cruiser/1/0"},
-        {"Cruiser", 1, 1, "ltcru2", "Cruiser/1/1"},
-        {"Cruiser", 1, 2, "ltcru3", "Cruiser/1/2"},
-        {"Cruiser", 2, 4, "cru2", "Cruiser/2/4"},
-        {"Cruiser", 3, 0, "cru3", "Cruiser/3/0"},
-        {"Cruiser", 3, 1, "cru3a", "Cruiser/3/1"},
-        {"Cruiser", 4, 2, "cru4", "Cruiser/4/2"},
-        {"Cruiser", 5, 0, "cru5", "Cruiser/5/0"},
-        {"Cruiser", 5, 1, "cru5a", "Cruiser/5/1"},
-        {"Cruiser", 5, 2, "dreadnought", "Cruiser/5/2"},
-        {"Cruiser", 5, 3, "cru3a", "Cruiser/5/3"},
-        {"Cruiser", 5, 4, "cru4", "Cruiser/5/4"},
-        {"Escort", 2, 1, "esc2", "Escort/2/1"},
-        {"Escort", 3, 0, "esc3", "Escort/3/0"},
-        {"Escort", 4, 2, "esc4", "Escort/4/2"},
-        {"Escort", 5, 0, "esc5", "Escort/5/0"},
-        {"Escort", 5, 1, "esc5a", "Escort/5/1"},
-        {"Escort", 5, 2, "esc4", "Escort/5/2"},
-        {"Shuttlecraft", 1, 0, "shuttle1", "Shuttlecraft/1/0"},
-        {"Shuttlecraft", 5, 1, "shuttle2", "Shuttlecraft/5/1"},
-        {"Shuttlecraft", 3, 2, "shuttle3", "Shuttlecraft/3/2"},
-        {"Science Vessel", 2, 1, "sci2", "Science Vessel/2/1"},
-        {"Science Vessel", 3, 0, "sci3", "Science Vessel/3/0"},
-        {"Science Vessel", 3, 1, "sci3a", "Science Vessel/3/1"},
-        {"Science Vessel", 4, 0, "sci4", "Science Vessel/4/0"},
-        {"Science Vessel", 5, 0, "sci5", "Science Vessel/5/0"},
-        {"Science Vessel", 5, 1, "sci5a", "Science Vessel/5/1"},
-        {"Science Vessel", 5, 2, "sci3a", "Science Vessel/5/2"},
-        {"Science Vessel", 5, 3, "sci4", "Science Vessel/5/3"},
-        {"Allied Vessel", 5, 0, "allied1", "Allied Vessel/5/0"},
-        {"Allied Vessel", 2, 1, "allied2", "Allied Vessel/2/1"},
-        {"Allied Vessel", 4, 2, "allied3", "Allied Vessel/4/2"},
-        {"Battle Cruiser", 2, 0, "bc2", "Battle Cruiser/2/0"},
-        {"Battle Cruiser", 3, 1, "bc3", "Battle Cruiser/3/1"},
-        {"Battle Cruiser", 4, 0, "bc4", "Battle Cruiser/4/0"},
-        {"Battle Cruiser", 5, 0, "bc5", "Battle Cruiser/5/0"},
-        {"Battle Cruiser", 5, 1, "bc4", "Battle Cruiser/5/1"},
-        {"Bird of Prey", 1, 0, "bop1", "Bird of Prey/1/0"},
-        {"Bird of Prey", 1, 1, "bop1a", "Bird of Prey/1/1"},
-        {"Bird of Prey", 2, 0, "bop2", "Bird of Prey/2/0"},
-        {"Bird of Prey", 3, 2, "bop3", "Bird of Prey/3/2"},
-        {"Bird of Prey", 4, 0, "bop4", "Bird of Prey/4/0"},
-        {"Bird of Prey", 5, 0, "bop5", "Bird of Prey/5/0"},
-        {"Bird of Prey", 5, 1, "bop1", "Bird of Prey/5/1"},
-        {"Carrier", 5, 0, "car5", "Carrier/5/0"},
-        {"Carrier", 2, 1, "car6", "Carrier/2/1"},
-        {"Raptor", 2, 0, "rap2", "Raptor/2/0"},
-        {"Raptor", 3, 1, "rap3", "Raptor/3/1"},
-        {"Raptor", 4, 0, "rap4", "Raptor/4/0"},
-        {"Raptor", 5, 2, "rap5", "Raptor/5/2"},
-        {"Shuttlecraft ", 4, 0, "kshuttle1", "Shuttlecraft /4/0"},
+        // clang-format off
+        {"Federation", "1/0=ltcru3 1/1=ltcru2 2/0=cru2 2/3=cru2 3/1=cru3a 4/0=cru4 4/1=esc4 4/2=sci4 5/0=dreadnought 5/1=cru5 1/2=last 4/3=last 5/2=last"},
+        {"Cruiser", "1/0=ltcru1 1/1=ltcru2 1/2=ltcru3 2/4=cru2 3/0=cru3 3/1=cru3a 4/2=cru4 5/0=cru5 5/1=cru5a 5/2=dreadnought 5/3=cru3a 5/4=cru4 1/3=last 3/2=last 5/5=last"},
+        {"Escort", "2/1=esc2 3/0=esc3 4/2=esc4 5/0=esc5 5/1=esc5a 5/2=esc4 1/0=last 5/3=last"},
+        {"Shuttlecraft", "1/0=shuttle1 5/1=shuttle2 3/2=shuttle3 1/3=last"},
+        {"Science Vessel", "2/1=sci2 3/0=sci3 3/1=sci3a 4/0=sci4 5/0=sci5 5/1=sci5a 5/2=sci3a 5/3=sci4 1/0=last 3/2=last 5/4=last"},
+        {"Allied Vessel", "5/0=allied1 2/1=allied2 4/2=allied3 5/3=last"},
+        {"Battle Cruiser", "2/0=bc2 3/1=bc3 4/0=bc4 5/0=bc5 5/1=bc4 1/0=last 5/2=last"},
+        {"Bird of Prey", "1/0=bop1 1/1=bop1a 2/0=bop2 3/2=bop3 4/0=bop4 5/0=bop5 5/1=bop1 1/2=last 5/2=last"},
+        {"Carrier", "5/0=car5 2/1=car6 5/2=last"},
+        {"Raptor", "2/0=rap2 3/1=rap3 4/0=rap4 5/2=rap5 1/0=last"},
+        {"Shuttlecraft ", "4/0=kshuttle1 1/1=last"},
+        // clang-format on
     };
     Calculator c;
     for (const Case& k : cases) {
-        ShowLast(c);
-        DrawShip(c, k.shipClass, k.tier, k.row, k.shipClass, k.tier, k.row);
-        EXPECT_EQ(c.main.AlphaImage.image(), k.name) << k.id;
-        EXPECT_EQ(c.main.OmegaImage.image(), k.name) << k.id;
-        EXPECT_EQ(c.main.ShipImageId[1], k.id);
-        EXPECT_EQ(c.main.ShipImageId[2], k.id);
+        std::istringstream words(k.pictures);
+        for (std::string word; words >> word;) {
+            const int tier = word[0] - '0', row = word[2] - '0';
+            const std::string name = word.substr(4), id = k.shipClass + word.substr(0, 3).insert(0, "/");
+            ShowLast(c);
+            DrawShip(c, k.shipClass, tier, row, k.shipClass, tier, row);
+            EXPECT_EQ(c.main.AlphaImage.image(), name) << id;
+            EXPECT_EQ(c.main.OmegaImage.image(), name) << id;
+            EXPECT_EQ(c.main.ShipImageId[1], id);
+            EXPECT_EQ(c.main.ShipImageId[2], id);
+        }
     }
-}
-
-TEST(ShipImage, ATierOrRowTheTableLacksKeepsTheLastPicture) {
-    struct Case {
-        const char* shipClass;
-        int tier;
-        int row;
-    } cases[] = {
-        {"Escort", 1, 0},         {"Federation", 1, 2},     {"Federation", 4, 3},    {"Federation", 5, 2},
-        {"Cruiser", 1, 3},        {"Cruiser", 3, 2},        {"Cruiser", 5, 5},       {"Science Vessel", 1, 0},
-        {"Science Vessel", 3, 2}, {"Science Vessel", 5, 4}, {"Escort", 5, 3},        {"Battle Cruiser", 1, 0},
-        {"Battle Cruiser", 5, 2}, {"Bird of Prey", 1, 2},   {"Bird of Prey", 5, 2},  {"Raptor", 1, 0},
-        {"Carrier", 5, 2},        {"Shuttlecraft", 1, 3},   {"Shuttlecraft ", 1, 1}, {"Allied Vessel", 5, 3},
-    };
-    Calculator c;
-    for (const Case& k : cases) {
+    ShowLast(c);
+    DrawShip(c, "Unrestricted", 3, 2, "Unrestricted", 3, 2);
+    EXPECT_EQ(c.main.AlphaImage.image(), "unrestricted");
+    EXPECT_EQ(c.main.ShipImageId[1], "Unrestricted");
+    // An unknown class shows the unrestricted ship on Alpha only.
+    for (const char* shipClass : {"", "Starbase", "Cruiser ", "cruiser"}) {
         ShowLast(c);
-        DrawShip(c, k.shipClass, k.tier, k.row, k.shipClass, k.tier, k.row);
-        const std::string what = std::string(k.shipClass) + "/" + std::to_string(k.tier) + "/" + std::to_string(k.row);
-        EXPECT_EQ(c.main.AlphaImage.image(), kLast) << what;
-        EXPECT_EQ(c.main.OmegaImage.image(), kLast) << what;
-        EXPECT_EQ(c.main.ShipImageId[1], what);
-    }
-}
-
-TEST(ShipImage, AnUnknownClassShowsTheUnrestrictedShipOnAlphaOnly) {
-    struct Case {
-        const char* shipClass;
-        const char* omega; // Omega keeps its last picture; "" empties it
-    } cases[] = {{"", ""}, {"Starbase", "last"}, {"Cruiser ", "last"}, {"cruiser", "last"}};
-    Calculator c;
-    for (const Case& k : cases) {
-        ShowLast(c);
-        DrawShip(c, k.shipClass, 5, 0, k.shipClass, 5, 0);
-        EXPECT_EQ(c.main.AlphaImage.image(), "unrestricted") << '"' << k.shipClass << '"';
-        EXPECT_EQ(c.main.OmegaImage.image(), k.omega) << '"' << k.shipClass << '"';
+        DrawShip(c, shipClass, 5, 0, shipClass, 5, 0);
+        EXPECT_EQ(c.main.AlphaImage.image(), "unrestricted") << '"' << shipClass << '"';
+        EXPECT_EQ(c.main.OmegaImage.image(), *shipClass ? kLast : "") << '"' << shipClass << '"';
     }
 }
 
@@ -158,42 +87,38 @@ TEST(ShipImage, KlingonDrawsAlphaThenOmegaFromTheOneSequence) {
     EXPECT_EQ(c.random.next(), probe.next());
 }
 
-TEST(ShipImage, AKlingonScienceVesselIsDrawnAsItsCounterpart) {
+TEST(ShipImage, TranslatedOmegaClasses) {
     struct Case {
-        int tier;
-        int row;
-        const char* name;
-        const char* id;
+        const char* alphaClass;
+        int alphaRow;
+        const char* omegaClass;
+        int tier, row;
+        const char *name, *id; // name "last": no picture for that form and tier
     } cases[] = {
-        {3, 0, "bop3", "Bird of Prey/3/0"},     {2, 0, "bop2", "Bird of Prey/2/0"},
-        {4, 1, "bop4", "Bird of Prey/4/1"},     {1, 1, "bop1a", "Bird of Prey/1/1"},
-        {5, 0, "allied3", "Allied Vessel/5/2"}, {5, 1, "allied3", "Allied Vessel/5/2"},
+        // clang-format off
+        {"Science Vessel", 0, "Klingon Science Vessel", 3, 0, "bop3", "Bird of Prey/3/0"},
+        {"Science Vessel", 0, "Klingon Science Vessel", 2, 0, "bop2", "Bird of Prey/2/0"},
+        {"Science Vessel", 0, "Klingon Science Vessel", 4, 1, "bop4", "Bird of Prey/4/1"},
+        {"Science Vessel", 0, "Klingon Science Vessel", 1, 1, "bop1a", "Bird of Prey/1/1"},
+        {"Science Vessel", 0, "Klingon Science Vessel", 5, 0, "allied3", "Allied Vessel/5/2"},
+        {"Science Vessel", 0, "Klingon Science Vessel", 5, 1, "allied3", "Allied Vessel/5/2"},
+        {"Allied Vessel", 0, "Federation Allied Vessel", 5, 0, "esc5", "Federation Allied Vessel/5/0"},
+        {"Allied Vessel", 1, "Federation Allied Vessel", 5, 0, "cru5", "Federation Allied Vessel/5/0"},
+        {"Allied Vessel", 2, "Federation Allied Vessel", 5, 0, "sci5", "Federation Allied Vessel/5/0"},
+        {"Allied Vessel", 0, "Federation Allied Vessel", 4, 0, "esc4", "Federation Allied Vessel/4/0"},
+        {"Allied Vessel", 1, "Federation Allied Vessel", 4, 0, "cru4", "Federation Allied Vessel/4/0"},
+        {"Allied Vessel", 2, "Federation Allied Vessel", 3, 0, "sci3", "Federation Allied Vessel/3/0"},
+        {"Allied Vessel", 1, "Federation Allied Vessel", 1, 0, "ltcru1", "Federation Allied Vessel/1/0"},
+        {"Allied Vessel", 0, "Federation Allied Vessel", 1, 0, "last", "Federation Allied Vessel/1/0"},
+        {"Allied Vessel", 2, "Federation Allied Vessel", 1, 0, "last", "Federation Allied Vessel/1/0"},
+        // clang-format on
     };
     Calculator c;
     for (const Case& k : cases) {
         ShowLast(c);
-        DrawShip(c, "Science Vessel", k.tier, 0, "Klingon Science Vessel", k.tier, k.row);
-        EXPECT_EQ(c.main.OmegaImage.image(), k.name) << k.id;
+        DrawShip(c, k.alphaClass, 5, k.alphaRow, k.omegaClass, k.tier, k.row);
+        EXPECT_EQ(c.main.OmegaImage.image(), k.name) << k.id << " from Alpha's row " << k.alphaRow;
         EXPECT_EQ(c.main.ShipImageId[2], k.id);
-    }
-}
-
-TEST(ShipImage, AFederationAlliedVesselTakesTheFormOfAlphasAlliedRow) {
-    struct Case {
-        int alliedRow; // Alpha's row of "Allied Vessel"
-        int tier;
-        const char* name; // "last": no picture for that form and tier
-    } cases[] = {
-        {0, 5, "esc5"}, {1, 5, "cru5"},   {2, 5, "sci5"}, {0, 4, "esc4"}, {1, 4, "cru4"},
-        {2, 3, "sci3"}, {1, 1, "ltcru1"}, {0, 1, "last"}, {2, 1, "last"},
-    };
-    Calculator c;
-    for (const Case& k : cases) {
-        ShowLast(c);
-        DrawShip(c, "Allied Vessel", 5, k.alliedRow, "Federation Allied Vessel", k.tier, 0);
-        EXPECT_EQ(c.main.AlphaImage.image(), "allied" + std::to_string(k.alliedRow + 1));
-        EXPECT_EQ(c.main.OmegaImage.image(), k.name) << k.alliedRow << " at tier " << k.tier;
-        EXPECT_EQ(c.main.ShipImageId[2], "Federation Allied Vessel/" + std::to_string(k.tier) + "/0");
     }
 }
 
@@ -209,20 +134,18 @@ TEST(ShipImage, OmegaWithoutATierRowKeepsItsLastPicture) {
 
 TEST(ShipImage, ClineFollowsTheIdsAndTheWidestForwardArc) {
     struct Case {
-        const char* name;
-        const char* id1;
-        const char* id2;
-        bool arc0;
-        bool arc1;
-        bool visible;
+        const char *name, *id1, *id2;
+        bool arc0, arc1, visible;
         int y1;
     } cases[] = {
+        // clang-format off
         {"no Omega picture", "Cruiser/5/0", "", true, true, false, 3675},
         {"equal ids", "Cruiser/5/0", "Cruiser/5/0", false, false, false, 3675},
         {"forward 45 in use", "Cruiser/5/0", "Escort/5/0", true, true, true, 3215},
         {"forward 90 in use", "Cruiser/5/0", "Escort/5/0", false, true, true, 3455},
         {"neither", "Cruiser/5/0", "Escort/5/0", false, false, true, 3675},
         {"only forward 45", "Unrestricted", "Klingon/5/0", true, false, true, 3215},
+        // clang-format on
     };
     for (const Case& k : cases) {
         Calculator c;
@@ -236,22 +159,12 @@ TEST(ShipImage, ClineFollowsTheIdsAndTheWidestForwardArc) {
         EXPECT_EQ(c.main.Cline.y1(), k.y1) << k.name;
         EXPECT_EQ(c.main.Cline.y2(), 7890) << k.name;
     }
-}
-
-TEST(ShipImage, TwoShipsWithOnePictureStillShowTheLine) {
+    // Two ships with one picture still show the line; one ship hides it.
     Calculator c;
     DrawShip(c, "Federation", 2, 0, "Cruiser", 2, 0);
-    EXPECT_EQ(c.main.AlphaImage.image(), "cru2");
     EXPECT_EQ(c.main.OmegaImage.image(), "cru2");
     DecideCline(c);
     EXPECT_TRUE(c.main.Cline.visible());
-}
-
-TEST(ShipImage, EqualShipsAfterUnequalOnesShowOnePicture) {
-    Calculator c;
-    DrawShip(c, "Cruiser", 4, 0, "Escort", 4, 0);
-    DecideCline(c);
-    ASSERT_TRUE(c.main.Cline.visible());
     DrawShip(c, "Cruiser", 4, 0, "", 0, 0);
     EXPECT_EQ(c.main.AlphaImage.image(), "cru4");
     EXPECT_EQ(c.main.OmegaImage.image(), "");
@@ -261,27 +174,20 @@ TEST(ShipImage, EqualShipsAfterUnequalOnesShowOnePicture) {
 }
 
 TEST(ShipImage, ShipImageControlDrawsOneWholePictureForOneShip) {
-    // At the start Omega is on its same-as rows: the same ship as Alpha.
-    struct Case {
-        const char* name;
-        int comparing;
-        bool clineAfter;
-    } cases[] = {
-        {"not comparing: the line is left alone", 0, true},
-        {"comparing equal ships: the line goes", -1, false},
-    };
-    for (const Case& k : cases) {
+    // At the start Omega is on its same-as rows: the same ship as Alpha. The
+    // line is left alone unless comparing.
+    for (int comparing : {0, -1}) {
         Calculator c;
-        c.state.Comparing = k.comparing;
+        c.state.Comparing = comparing;
         c.main.OmegaImage.setImage(kLast);
         c.main.ShipImageId[2] = "Escort/5/0";
         c.main.Cline.setVisible(true);
         ShipImageControl(c);
-        EXPECT_EQ(c.main.AlphaImage.image(), "unrestricted") << k.name;
-        EXPECT_EQ(c.main.OmegaImage.image(), "") << k.name;
-        EXPECT_EQ(c.main.ShipImageId[1], "Unrestricted") << k.name;
-        EXPECT_EQ(c.main.ShipImageId[2], "") << k.name;
-        EXPECT_EQ(c.main.Cline.visible(), k.clineAfter) << k.name;
+        EXPECT_EQ(c.main.AlphaImage.image(), "unrestricted") << comparing;
+        EXPECT_EQ(c.main.OmegaImage.image(), "") << comparing;
+        EXPECT_EQ(c.main.ShipImageId[1], "Unrestricted") << comparing;
+        EXPECT_EQ(c.main.ShipImageId[2], "") << comparing;
+        EXPECT_EQ(c.main.Cline.visible(), comparing == 0) << comparing;
     }
 }
 
@@ -289,8 +195,7 @@ TEST(ShipImage, ArcOverlayGeometry) {
     struct Case {
         int i;
         double from, to, radius, band;
-        int row;
-        int sweeps;
+        int row, sweeps;
         double sweepFrom, sweepTo; // the first sweep
     } cases[] = {
         {0, 0, 22.5, 172, 142, 5, 1, -22.5, 22.5}, {1, 0, 45, 156, 142, 52, 1, -45, 45},
@@ -301,30 +206,31 @@ TEST(ShipImage, ArcOverlayGeometry) {
         {10, 90, 180, 142, 0, 292, 1, 90, 270},    {11, 55, 180, 142, 0, 197, 1, 55, 305},
     };
     for (const Case& k : cases) {
+        SCOPED_TRACE(k.i);
         const ArcGeometry g = FiringArcGeometry(k.i);
-        EXPECT_EQ(g.fromDegrees, k.from) << k.i;
-        EXPECT_EQ(g.toDegrees, k.to) << k.i;
-        EXPECT_EQ(g.radius, k.radius) << k.i;
-        EXPECT_EQ(g.bandInner, k.band) << k.i;
-        EXPECT_EQ(g.leaderRow, k.row) << k.i;
-        EXPECT_EQ(g.wholeCircle, k.i == 5) << k.i;
-        ASSERT_EQ(g.sweepCount, k.sweeps) << k.i;
-        EXPECT_EQ(g.sweeps[0].from, k.sweepFrom) << k.i;
-        EXPECT_EQ(g.sweeps[0].to, k.sweepTo) << k.i;
+        EXPECT_EQ(g.fromDegrees, k.from);
+        EXPECT_EQ(g.toDegrees, k.to);
+        EXPECT_EQ(g.radius, k.radius);
+        EXPECT_EQ(g.bandInner, k.band);
+        EXPECT_EQ(g.leaderRow, k.row);
+        EXPECT_EQ(g.wholeCircle, k.i == 5);
+        ASSERT_EQ(g.sweepCount, k.sweeps);
+        EXPECT_EQ(g.sweeps[0].from, k.sweepFrom);
+        EXPECT_EQ(g.sweeps[0].to, k.sweepTo);
         if (k.sweeps == 2) {
-            EXPECT_EQ(g.sweeps[1].from, -k.sweepTo) << k.i;
-            EXPECT_EQ(g.sweeps[1].to, -k.sweepFrom) << k.i;
+            EXPECT_EQ(g.sweeps[1].from, -k.sweepTo);
+            EXPECT_EQ(g.sweeps[1].to, -k.sweepFrom);
         }
         // The leaders end on the outer arc, inside the sector, mirrored.
         const double dx = ArcCentre.x - g.leftAnchor.x, dy = ArcCentre.y - g.leftAnchor.y;
-        EXPECT_NEAR(std::hypot(dx, dy), k.radius, 1e-9) << k.i;
+        EXPECT_NEAR(std::hypot(dx, dy), k.radius, 1e-9);
         const double bearing = std::atan2(dx, dy) * 180.0 / 3.14159265358979323846;
-        EXPECT_GE(bearing, k.from - 1e-9) << k.i;
-        EXPECT_LE(bearing, k.to + 1e-9) << k.i;
-        EXPECT_DOUBLE_EQ(g.rightAnchor.x, 359.0 - g.leftAnchor.x) << k.i;
-        EXPECT_EQ(g.rightAnchor.y, g.leftAnchor.y) << k.i;
+        EXPECT_GE(bearing, k.from - 1e-9);
+        EXPECT_LE(bearing, k.to + 1e-9);
+        EXPECT_DOUBLE_EQ(g.rightAnchor.x, 359.0 - g.leftAnchor.x);
+        EXPECT_EQ(g.rightAnchor.y, g.leftAnchor.y);
         // Where the row crosses the arc the leader runs straight across.
-        if (k.i != 0) { EXPECT_EQ(g.leftAnchor.y, k.row) << k.i; }
+        if (k.i != 0) { EXPECT_EQ(g.leftAnchor.y, k.row); }
     }
     // Row 5 lies above the reach of Forward 45: its leader meets the corner.
     const ArcGeometry g0 = FiringArcGeometry(0);
