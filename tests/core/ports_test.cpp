@@ -2,31 +2,45 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 namespace vantorel {
 namespace {
 
-using testing::Quietly;
-using Rows = std::vector<std::string>;
+using namespace testing;
+
+void Relative(Calculator& c, int on) {
+    for (Vessel v = 1; v <= 2; ++v) {
+        c.settings[v].RelativeDPS.setHandler({});
+        c.settings[v].RelativeDPS.setValue(on);
+    }
+}
 
 // Energy index -1 keeps relative DPS mode, where energy weapons have no type.
-void DamageTypes(Calculator& c, Vessel v, int energy, int projectile) {
-    VesselSettings& s = c.settings[v];
-    c.Alpha().RelativeDPS.setHandler({});
-    c.Alpha().RelativeDPS.setValue(energy < 0 ? 1 : 0);
-    Quietly(s.WeaponType[1], energy);
-    Quietly(s.WeaponType[2], projectile);
+void DamageTypes(Calculator& c, int energy, int projectile) {
+    Relative(c, energy < 0 ? 1 : 0);
+    Quietly(c.Alpha().WeaponType[1], energy);
+    Quietly(c.Alpha().WeaponType[2], projectile);
+}
+
+// What assigning the type does, also where the list is disabled and so stays
+// quiet by itself.
+void ChooseType(Calculator& c, Vessel v, int k, int index) {
+    Quietly(c.settings[v].WeaponType[k], index);
+    WeaponTypeChanged(c, v, k);
+}
+
+Rows Captions(const VesselSettings& s) {
+    Rows captions;
+    for (int i = 1; i <= 7; ++i)
+        captions.push_back(s.CalculatedWeaponDPSLabel[i].caption());
+    return captions;
 }
 
 TEST(Ports, DamageTypeWords) {
     Calculator c;
     EXPECT_EQ(GetDamageType(c, 1, 2), "Quantum ");
     Quietly(c.Alpha().WeaponType[1], 3);
-    EXPECT_EQ(GetDamageType(c, 1, 1), ""); // relative mode has no energy type
-    c.Alpha().RelativeDPS.setHandler({});
-    c.Alpha().RelativeDPS.setValue(0);
+    EXPECT_EQ(GetDamageType(c, 1, 1), "") << "relative mode has no energy type";
+    Relative(c, 0);
     EXPECT_EQ(GetDamageType(c, 1, 1), "Tetryon ");
     Quietly(c.Omega().WeaponType[1], 5);
     EXPECT_EQ(GetDamageType(c, 2, 1), "Antiproton ");
@@ -38,31 +52,25 @@ TEST(Ports, DamageTypeWords) {
 
 TEST(Ports, RowsOfEachListKind) {
     Calculator c;
-    DamageTypes(c, 1, 0, 1);
-    const Rows rear = {"Empty", "Phaser Beam Array", "Phaser Turret", "Quantum Torpedo Launcher",
-                       "Quantum Mine Launcher"};
-    struct Case {
-        int list;
-        Rows forward;
+    DamageTypes(c, 0, 1);
+    const Rows rear = {"Empty", "Phaser Beam Array", "Phaser Turret", "Quantum Torpedo Launcher", "Quantum Mine Launcher"};
+    const Rows common = {"Empty", "Phaser Beam Array", "Phaser Cannon", "Dual Phaser Beam Bank"};
+    const Rows tail = {"Phaser Turret", "Quantum Torpedo Launcher"};
+    auto join = [&](Rows middle, Rows end) {
+        Rows rows = common;
+        rows.insert(rows.end(), middle.begin(), middle.end());
+        rows.insert(rows.end(), tail.begin(), tail.end());
+        rows.insert(rows.end(), end.begin(), end.end());
+        return rows;
     };
-    const Case cases[] = {
-        {1,
-         {"Empty", "Phaser Beam Array", "Phaser Cannon", "Dual Phaser Beam Bank", "Phaser Dual Cannons",
-          "Phaser Dual Heavy Cannons", "Phaser Turret", "Quantum Torpedo Launcher"}},
-        {2,
-         {"Empty", "Phaser Beam Array", "Phaser Cannon", "Dual Phaser Beam Bank", "Phaser Turret",
-          "Quantum Torpedo Launcher"}},
-        {3,
-         {"Empty", "Phaser Beam Array", "Phaser Cannon", "Dual Phaser Beam Bank", "Phaser Turret",
-          "Quantum Torpedo Launcher", "Shuttle Phaser Beam Array"}},
-    };
-    for (const Case& k : cases) {
-        SCOPED_TRACE("list " + std::to_string(k.list));
-        WeaponAdd(c, k.list, 1);
+    const Rows forward[4] = {{}, join({"Phaser Dual Cannons", "Phaser Dual Heavy Cannons"}, {}), join({}, {}),
+                             join({}, {"Shuttle Phaser Beam Array"})};
+    for (int list = 1; list <= 3; ++list) {
+        WeaponAdd(c, list, 1);
         for (int i = 1; i <= 4; ++i) {
-            EXPECT_EQ(c.main.Forward[i].rows(), k.forward);
-            EXPECT_EQ(c.main.Rear[i].rows(), rear);
-            EXPECT_TRUE(c.main.Forward[i].enabled());
+            EXPECT_EQ(c.main.Forward[i].rows(), forward[list]) << list;
+            EXPECT_EQ(c.main.Rear[i].rows(), rear) << list;
+            EXPECT_TRUE(c.main.Forward[i].enabled()) << list;
         }
     }
 }
@@ -71,60 +79,44 @@ TEST(Ports, WeaponsAreSpeltAnewOnARebuild) {
     struct Case {
         const char* name;
         int energy, projectile, list;
-        const char* forwardBefore;
-        const char* rearBefore;
-        const char* forwardAfter;
-        const char* rearAfter;
-    };
-    const Case cases[] = {
+        const char *forwardBefore, *rearBefore, *forwardAfter, *rearAfter;
+    } cases[] = {
+        // clang-format off
         {"empty stays empty", 0, 1, 2, "Empty", "Empty", "Empty", "Empty"},
-        {"hints stay hints", -1, 1, 1, "Forward Weapon Port 3", "Rear Weapon Port 3", "Forward Weapon Port 3",
-         "Rear Weapon Port 3"},
-        {"no text becomes the hint", -1, 1, 1, "", "", "Forward Weapon Port 3", "Rear Weapon Port 3"},
-        {"dual heavy cannons on a ship without them", 1, 1, 2, "Disruptor Dual Heavy Cannons", "Empty",
-         "Dual Disruptor Beam Bank", "Empty"},
-        {"dual cannons on a shuttle", 0, 1, 3, "Phaser Dual Cannons", "Empty", "Dual Phaser Beam Bank", "Empty"},
-        {"dual heavy cannons change type on list 1", 1, 1, 1, "Phaser Dual Heavy Cannons", "Phaser Turret",
-         "Disruptor Dual Heavy Cannons", "Disruptor Turret"},
-        {"dual cannons are not heavy ones", 2, 1, 1, "Dual Cannons", "Empty", "Plasma Dual Cannons", "Empty"},
-        {"launchers follow the projectile word", -1, 1, 1, "Photon Torpedo Launcher", "Photon Mine Launcher",
-         "Quantum Torpedo Launcher", "Quantum Mine Launcher"},
-        {"rear torpedo stays a torpedo", -1, 1, 1, "Empty", "Photon Torpedo Launcher", "Empty",
-         "Quantum Torpedo Launcher"},
-        {"shuttle array stays on list 3", -1, 1, 3, "Shuttle Beam Array", "Empty", "Shuttle Beam Array", "Empty"},
-        {"shuttle array follows the energy word", 1, 1, 3, "Shuttle Phaser Beam Array", "Empty",
-         "Shuttle Disruptor Beam Array", "Empty"},
-        {"shuttle array on list 1", 0, 1, 1, "Shuttle Phaser Beam Array", "Empty", "Phaser Beam Array", "Empty"},
-        {"shuttle array on list 2", -1, 1, 2, "Shuttle Beam Array", "Empty", "Beam Array", "Empty"},
-        {"relative shuttle array gets the type", 0, 1, 3, "Shuttle Beam Array", "Empty", "Shuttle Phaser Beam Array",
-         "Empty"},
-        {"relative dual beam bank gets the type", 0, 1, 1, "Dual Beam Bank", "Beam Array", "Dual Phaser Beam Bank",
-         "Phaser Beam Array"},
-        {"typed text with a known ending", 0, 1, 1, "my Cannon", "a Turret", "Phaser Cannon", "Phaser Turret"},
-        {"typed text with no known ending", 0, 1, 1, "Photon Torpedoes", "Mines", "Photon Torpedoes", "Mines"},
-        {"relative mode drops the energy word", -1, 0, 1, "Polaron Turret", "Polaron Beam Array", "Turret",
-         "Beam Array"},
+        {"hints stay hints", -1, 1, 1, "Forward Weapon Port 3", "Rear Weapon Port 3", "Forward Weapon Port 3", "Rear Weapon Port 3"},
+        {"no text: the hint", -1, 1, 1, "", "", "Forward Weapon Port 3", "Rear Weapon Port 3"},
+        {"dhc on a ship without", 1, 1, 2, "Disruptor Dual Heavy Cannons", "Empty", "Dual Disruptor Beam Bank", "Empty"},
+        {"dc on a shuttle", 0, 1, 3, "Phaser Dual Cannons", "Empty", "Dual Phaser Beam Bank", "Empty"},
+        {"dhc change type, list 1", 1, 1, 1, "Phaser Dual Heavy Cannons", "Phaser Turret", "Disruptor Dual Heavy Cannons", "Disruptor Turret"},
+        {"dc are not dhc", 2, 1, 1, "Dual Cannons", "Empty", "Plasma Dual Cannons", "Empty"},
+        {"launchers follow", -1, 1, 1, "Photon Torpedo Launcher", "Photon Mine Launcher", "Quantum Torpedo Launcher", "Quantum Mine Launcher"},
+        {"rear torpedo stays", -1, 1, 1, "Empty", "Photon Torpedo Launcher", "Empty", "Quantum Torpedo Launcher"},
+        {"shuttle array, list 3", -1, 1, 3, "Shuttle Beam Array", "Empty", "Shuttle Beam Array", "Empty"},
+        {"shuttle array typed", 1, 1, 3, "Shuttle Phaser Beam Array", "Empty", "Shuttle Disruptor Beam Array", "Empty"},
+        {"shuttle array, list 1", 0, 1, 1, "Shuttle Phaser Beam Array", "Empty", "Phaser Beam Array", "Empty"},
+        {"shuttle array, list 2", -1, 1, 2, "Shuttle Beam Array", "Empty", "Beam Array", "Empty"},
+        {"relative shuttle array typed", 0, 1, 3, "Shuttle Beam Array", "Empty", "Shuttle Phaser Beam Array", "Empty"},
+        {"relative dbb typed", 0, 1, 1, "Dual Beam Bank", "Beam Array", "Dual Phaser Beam Bank", "Phaser Beam Array"},
+        {"typed, known ending", 0, 1, 1, "my Cannon", "a Turret", "Phaser Cannon", "Phaser Turret"},
+        {"typed, no known ending", 0, 1, 1, "Photon Torpedoes", "Mines", "Photon Torpedoes", "Mines"},
+        {"relative drops the word", -1, 0, 1, "Polaron Turret", "Polaron Beam Array", "Turret", "Beam Array"},
+        // clang-format on
     };
     for (const Case& k : cases) {
-        SCOPED_TRACE(k.name);
         Calculator c;
-        DamageTypes(c, 1, k.energy, k.projectile);
+        DamageTypes(c, k.energy, k.projectile);
         c.main.Forward[3].setText(k.forwardBefore);
         c.main.Rear[3].setText(k.rearBefore);
         WeaponAdd(c, k.list, 1);
-        EXPECT_EQ(c.main.Forward[3].text(), k.forwardAfter);
-        EXPECT_EQ(c.main.Rear[3].text(), k.rearAfter);
+        EXPECT_EQ(c.main.Forward[3].text(), k.forwardAfter) << k.name;
+        EXPECT_EQ(c.main.Rear[3].text(), k.rearAfter) << k.name;
     }
-}
-
-TEST(Ports, ALostDualCannonStaysABeamBank) {
+    // A lost dual cannon stays a beam bank when the list comes back.
     Calculator c;
-    DamageTypes(c, 1, 1, 1);
+    DamageTypes(c, 1, 1);
     WeaponAdd(c, 1, 1);
     c.main.Forward[1].setText("Disruptor Dual Heavy Cannons");
-    EXPECT_EQ(c.main.Forward[1].index(), 5);
     WeaponAdd(c, 2, 1);
-    EXPECT_EQ(c.main.Forward[1].text(), "Dual Disruptor Beam Bank");
     EXPECT_EQ(c.main.Forward[1].index(), 3);
     WeaponAdd(c, 1, 1);
     EXPECT_EQ(c.main.Forward[1].text(), "Dual Disruptor Beam Bank");
@@ -140,14 +132,12 @@ TEST(Ports, UnlockOpensOnlyThePortsOfTheShip) {
         c.main.Rear[i].setHandler([&] { ++recalculations; });
     }
     WeaponUnlock(c, 2, 0, 1);
-    EXPECT_FALSE(c.main.RearWeaponlabel.visible());
+    EXPECT_FALSE(c.main.RearWeaponlabel.visible() || c.main.Rear[1].visible());
     EXPECT_EQ(c.main.Rear[1].text(), "Rear Weapon Port 1");
-    EXPECT_FALSE(c.main.Rear[1].visible());
     EXPECT_EQ(c.main.Forward[2].text(), "Beam Array");
     EXPECT_TRUE(c.main.Forward[2].visible() && c.main.Forward[2].enabled());
     EXPECT_EQ(c.main.Forward[3].text(), "Forward Weapon Port 3");
     EXPECT_FALSE(c.main.Forward[3].visible() || c.main.Forward[3].enabled());
-
     // Going back to a bigger ship does not bring the weapons back.
     WeaponUnlock(c, 4, 4, 1);
     EXPECT_TRUE(c.main.RearWeaponlabel.visible());
@@ -155,12 +145,148 @@ TEST(Ports, UnlockOpensOnlyThePortsOfTheShip) {
     EXPECT_EQ(c.main.Forward[3].text(), "Forward Weapon Port 3");
     EXPECT_TRUE(c.main.Rear[4].visible() && c.main.Rear[4].enabled());
     EXPECT_EQ(recalculations, 0);
-
     // Omega's heading is its own.
     WeaponUnlock(c, 2, 0, 2);
     EXPECT_FALSE(c.main.CRearWeaponlabel.visible());
     EXPECT_TRUE(c.main.RearWeaponlabel.visible());
     EXPECT_TRUE(c.main.CForward[2].visible() && !c.main.CForward[3].visible());
+}
+
+TEST(WeaponType, StartUpSetsQuantumOnBothVessels) {
+    Calculator c;
+    // Its handler fitted Alpha's unrestricted tier 5 ship; Omega, not on
+    // show, keeps its start rows.
+    for (int i = 1; i <= 4; ++i) {
+        EXPECT_TRUE(c.main.Forward[i].visible() && c.main.Rear[i].enabled());
+        EXPECT_EQ(c.main.Forward[i].text(), "Forward Weapon Port " + std::to_string(i));
+        EXPECT_EQ(c.main.Forward[i].row(1), "Beam Array");
+        EXPECT_EQ(c.main.Rear[i].row(3), "Quantum Torpedo Launcher");
+        EXPECT_EQ(c.main.CRear[i].row(3), "Mine Launcher");
+    }
+    for (Vessel v = 1; v <= 2; ++v) {
+        const VesselSettings& s = c.settings[v];
+        EXPECT_EQ(s.WeaponType[2].index(), 1);
+        for (int i = 1; i <= 4; ++i) {
+            EXPECT_EQ(s.TacticalConsole[i].row(6), "Zero Point Quantum Chamber (+Quantum Projectiles)");
+            EXPECT_EQ(s.TacticalConsole[i].row(3), "Specific Energy Type (+Energy)");
+            EXPECT_FALSE(s.TacticalConsole[i].enabled());
+        }
+        EXPECT_EQ(s.WeaponSkill[8].tooltip(),
+                  "Quantum Projectiles skill (Commander).  Increases the damage of all Quantum projectile weapons.");
+        EXPECT_EQ(s.WeaponSkill[8].text(), "");
+        EXPECT_EQ(Captions(s), (Rows{"Dual (Heavy) Cannons", "Dual Beam Bank", "Single Cannon", "Beam Array", "Turret",
+                                     "Torpedo Launcher", "Mine Launcher"}));
+    }
+}
+
+TEST(WeaponType, EnergyTypeNamesItsConsoleAndAccolade) {
+    const std::string where = "  This can be found in the game under: Player Stats > Passive > From Accolades: Space.";
+    struct Case {
+        int index;
+        const char *console, *accolade, *tooltip;
+    } cases[] = {
+        // clang-format off
+        {0, "Phaser Relay (+Phaser Weapons)", "Heavy Hitter Accolade Bonus", "Check if your captain has attained the Heavy Hitter accolade bonus, which grants a bonus of +2% to the base damage of Phaser Weapons."},
+        {4, "Polaron Phase Modulator (+Polaron Weapons)", "Enforcer Accolade Bonus", "Check if your captain has attained the Enforcer Accolade bonus, which grants a bonus of +2% to the base damage of Polaron Weapons."},
+        {5, "Antiproton Mag Regulator (+Antiproton Weapons)", "Strike from the Record Accolade Bonus", "Check if your captain has attained the Strike from the Record accolade bonus, which grants a bonus of +2% to the base damage of Antiproton Weapons."},
+        {-1, "Specific Energy Type (+Energy Weapons)", "Energy Weapon Accolade Bonus", "Check if your captain has attained an Energy Weapon Type accolade bonus, which grants a bonus of +2% to the base damage of a specific Energy Weapon Type."},
+        // clang-format on
+    };
+    for (const Case& k : cases) {
+        Calculator c;
+        ChooseType(c, 1, 1, 2); // away from the case first, so -1 is a change too
+        ChooseType(c, 1, 1, k.index);
+        EXPECT_EQ(c.Alpha().TacticalConsole[4].row(3), k.console) << k.index;
+        EXPECT_EQ(c.Alpha().WeaponAccolade[1].caption(), k.accolade) << k.index;
+        EXPECT_EQ(c.Alpha().WeaponAccolade[1].tooltip(), k.tooltip + where) << k.index;
+        EXPECT_EQ(c.Omega().TacticalConsole[4].row(3), k.console) << k.index;
+    }
+}
+
+TEST(WeaponType, TypeSkillBoxOpensByRank) {
+    struct Case {
+        const char* name;
+        int k, index, rankRow, relative;
+        const char *before, *text;
+        bool enabled;
+        Colour back;
+    } cases[] = {
+        // clang-format off
+        {"closed below commander", 1, 0, 2, 0, "", "N/A", false, Grey},
+        {"phaser at commander", 1, 0, 3, 0, "", "9", true, White},
+        {"no type at commander", 1, -1, 3, 0, "", "9", true, White},
+        {"plasma needs a captain", 1, 2, 3, 0, "", "N/A", false, Grey},
+        {"plasma at captain", 1, 2, 4, 0, "N/A", "9", true, White},
+        {"polaron needs an admiral", 1, 4, 4, 0, "", "N/A", false, Grey},
+        {"polaron at admiral", 1, 4, 5, 0, "", "9", true, White},
+        {"typed skill stays", 1, 0, 7, 0, "5", "5", true, White},
+        {"relative: energy box shut", 1, 0, 7, 1, "", "", false, White},
+        {"chroniton needs an admiral", 2, 3, 4, 0, "", "N/A", false, Grey},
+        {"transphasic at captain", 2, 4, 4, 0, "", "9", true, White},
+        {"tricobalt needs an admiral", 2, 5, 4, 0, "", "N/A", false, Grey},
+        {"relative: projectile untouched", 2, 1, 1, 1, "", "", false, Grey},
+        // clang-format on
+    };
+    for (const Case& k : cases) {
+        SCOPED_TRACE(k.name);
+        Calculator c;
+        AlphaCaptain(c, 0, k.rankRow);
+        Relative(c, k.relative);
+        Text& box = c.Alpha().WeaponSkill[k.k == 1 ? 4 : 8];
+        box.setHandler({});
+        box.setText(k.before);
+        ChooseType(c, 1, k.k, k.index);
+        EXPECT_EQ(box.text(), k.text);
+        EXPECT_EQ(box.enabled(), k.enabled);
+        EXPECT_EQ(box.back(), k.back);
+        // A mirrored Omega's box is a copy the type handler leaves alone.
+        EXPECT_EQ(c.Omega().WeaponSkill[k.k == 1 ? 4 : 8].text(), "");
+    }
+}
+
+TEST(WeaponType, ConsoleOnTheRewrittenRowKeepsItsPlace) {
+    for (int relative : {0, 1}) {
+        SCOPED_TRACE(relative);
+        Calculator c;
+        Relative(c, relative);
+        VesselSettings& a = c.Alpha();
+        Quietly(a.TacticalConsole[2], 6);
+        Quietly(a.TacticalConsoleMark[2], 3);
+        Quietly(a.TacticalConsoleRarity[2], 1);
+        ChooseType(c, 1, 2, 4);
+        EXPECT_EQ(a.TacticalConsole[2].text(), "Transphasic Compressor (+Transphasic Projectiles)");
+        EXPECT_EQ(a.TacticalConsoleMark[2].index(), 3);
+        EXPECT_EQ(a.TacticalConsoleRarity[2].index(), 1);
+        EXPECT_EQ(a.TacticalConsole[1].enabled(), relative == 0);
+        EXPECT_EQ(a.TacticalConsoleRarity[3].enabled(), relative == 0);
+        // The mirrored Omega follows, its lists closed.
+        EXPECT_EQ(c.Omega().WeaponType[2].index(), 4);
+        EXPECT_EQ(c.Omega().TacticalConsole[1].row(6), "Transphasic Compressor (+Transphasic Projectiles)");
+        EXPECT_FALSE(c.Omega().TacticalConsole[1].enabled());
+    }
+    // Custom mode names the types in the captions.
+    Calculator c;
+    Relative(c, 0);
+    ChooseType(c, 1, 1, 0);
+    const Rows named = {"Phaser Dual (Heavy) Cannons", "Dual Phaser Beam Bank", "Phaser Cannon", "Phaser Beam Array",
+                        "Phaser Turret", "Quantum Torpedo Launcher", "Quantum Mine Launcher"};
+    EXPECT_EQ(Captions(c.Alpha()), named);
+    EXPECT_EQ(Captions(c.Omega()), named);
+}
+
+TEST(WeaponType, OnlyAnEnabledListRefitsTheShipAndAFreeOmegaKeepsItsType) {
+    Calculator c;
+    c.Omega().SameAsAlpha.setHandler({});
+    c.Omega().SameAsAlpha.setValue(0);
+    c.Alpha().WeaponType[2].setIndex(0);
+    EXPECT_EQ(c.main.Forward[1].row(7), "Photon Torpedo Launcher");
+    EXPECT_EQ(c.main.Rear[1].row(4), "Photon Mine Launcher");
+    EXPECT_EQ(c.Omega().WeaponType[2].index(), 1);
+    EXPECT_EQ(c.Omega().TacticalConsole[1].row(6), "Zero Point Quantum Chamber (+Quantum Projectiles)");
+    c.Alpha().WeaponType[2].setEnabled(false);
+    ChooseType(c, 1, 2, 2);
+    EXPECT_EQ(c.main.Forward[1].row(7), "Photon Torpedo Launcher");
+    EXPECT_EQ(c.Alpha().TacticalConsole[1].row(6), "Ambiplasma Envelope (+Plasma Projectiles)");
 }
 
 } // namespace
