@@ -79,17 +79,14 @@ TEST_F(Binary, ReadsTheScriptFromAFileOrFromStandardInput) {
 
 TEST_F(Binary, ExitsWithTwoAndPrintsNothingOnAFailure) {
     const std::string bad = "print Form1.Note\nselect Form1.ShipClass[2] #1\nprint Form1.Note\n";
-    struct Case {
-        const char* name;
-        std::string args;
-        const std::string* input;
-        const char* says;
-    } cases[] = {
+    // clang-format off
+    struct Case { const char* name; std::string args; const std::string* input; const char* says; } cases[] = {
         {"bad line", "-", &bad, "line 2: select Form1.ShipClass[2]: refused, the list is hidden\n"},
         {"missing file", Quoted(m_dir / "absent.txt"), nullptr, "absent.txt"},
         {"a directory", Quoted(m_dir), nullptr, "directory"},
         {"two scripts", "a.txt b.txt", nullptr, "usage"},
     };
+    // clang-format on
     for (const Case& c : cases) {
         const Outcome o = run(c.args, c.input);
         EXPECT_EQ(o.status, 2) << c.name;

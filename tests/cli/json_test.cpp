@@ -10,11 +10,8 @@ namespace vantorel {
 namespace {
 
 TEST(Json, EscapesWhatJsonCannotHoldAsIs) {
-    struct Case {
-        const char* name;
-        std::string text;
-        std::string expected;
-    } cases[] = {
+    // clang-format off
+    struct Case { const char* name; std::string text; std::string expected; } cases[] = {
         {"plain", "Beam Array", R"("Beam Array")"},
         {"quote", R"(It's a "Close" button)", R"("It's a \"Close\" button")"},
         {"backslash", R"(\Images\Alpha\)", R"("\\Images\\Alpha\\")"},
@@ -28,16 +25,14 @@ TEST(Json, EscapesWhatJsonCannotHoldAsIs) {
         {"surrogate", "\xed\xa0\x80", R"("\u00ed\u00a0\u0080")"},
         {"trailing blank kept", "Shuttlecraft ", R"("Shuttlecraft ")"},
     };
+    // clang-format on
     for (const Case& c : cases)
         EXPECT_EQ(JsonString(c.text), c.expected) << c.name;
 }
 
 TEST(Json, WritesSinglesAsTheShortestTextThatReadsBack) {
-    struct Case {
-        const char* name;
-        float x;
-        const char* expected;
-    } cases[] = {
+    // clang-format off
+    struct Case { const char* name; float x; const char* expected; } cases[] = {
         {"whole", 100.0f, "100"},
         {"a tenth", 0.1f, "0.1"},
         {"three decimals", 282.664f, "282.664"},
@@ -46,6 +41,7 @@ TEST(Json, WritesSinglesAsTheShortestTextThatReadsBack) {
         {"infinity", std::numeric_limits<float>::infinity(), "null"},
         {"not a number", std::numeric_limits<float>::quiet_NaN(), "null"},
     };
+    // clang-format on
     for (const Case& c : cases) {
         EXPECT_EQ(JsonNumber(c.x), c.expected) << c.name;
         if (std::string(c.expected) != "null") { EXPECT_EQ(std::strtof(c.expected, nullptr), c.x) << c.name; }
@@ -53,11 +49,8 @@ TEST(Json, WritesSinglesAsTheShortestTextThatReadsBack) {
 }
 
 TEST(Json, MatchesNamesLikeAShellPattern) {
-    struct Case {
-        const char* pattern;
-        const char* name;
-        bool matches;
-    } cases[] = {
+    // clang-format off
+    struct Case { const char* pattern; const char* name; bool matches; } cases[] = {
         {"*", "Form1.Forward[1]", true},
         {"Form1.Forward*", "Form1.Forward[1]", true},
         {"Form1.Forward*", "Form1.ForwardWeaponlabel", true},
@@ -82,6 +75,7 @@ TEST(Json, MatchesNamesLikeAShellPattern) {
         {"**", "", true},
         {"Form1.Note", "form1.note", false},
     };
+    // clang-format on
     for (const Case& c : cases)
         EXPECT_EQ(GlobMatch(c.pattern, c.name), c.matches) << c.pattern << " ~ " << c.name;
 }

@@ -84,13 +84,8 @@ TEST(Script, EachVerbRaisesTheEventsOfItsControl) {
 }
 
 TEST(Script, SetAssignsAsTheProgramDoesEvenOnHiddenControls) {
-    struct Case {
-        const char* name;
-        const char* script; // ends by printing exactly one name
-        const char* printed;
-        const char* expected; // a part of the printed value
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; const char* script; /* ends by printing exactly one name */ const char* printed; const char* expected; /* a part of the printed value */ } cases[] = {
         {"hidden list index", "set Form1.ShipClass[2] #3", "Form1.ShipClass[2]", "\"index\":3,"},
         {"index -1 clears", "set Form1.ShipClass[1] #-1", "Form1.ShipClass[1]", "\"index\":-1,\"text\":\"\""},
         {"typing list text", "set Form1.PowerLevel[1] \"87\"", "Form1.PowerLevel[1]", "\"text\":\"87\""},
@@ -108,8 +103,8 @@ TEST(Script, SetAssignsAsTheProgramDoesEvenOnHiddenControls) {
         {"blanks in the index", "set State.ArcDPS[ 3 , 2 ] 0.1", "State.ArcDPS[3,2]", "0.1"},
         {"double", "set State.DPWCoefficient[1,2,1] -0.5", "State.DPWCoefficient[1,2,1]", "-0.5"},
         {"boolean", "set State.ArcShown[13] 1", "State.ArcShown[13]", "true"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         const Result r = RunOn(c, std::string(k.script) + "\nprint " + k.printed + "\n");
@@ -120,13 +115,8 @@ TEST(Script, SetAssignsAsTheProgramDoesEvenOnHiddenControls) {
 
 TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
     const std::function<void(Calculator&)> none;
-    struct Case {
-        const char* name;
-        std::function<void(Calculator&)> setup;
-        const char* script;
-        const char* expected; // the whole message
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; std::function<void(Calculator&)> setup; const char* script; const char* expected; /* the whole message */ } cases[] = {
         {"unknown verb", none, "\n# a comment\npress Form1.Reset", "line 3: unknown verb \"press\"; the verbs are select, check, type, click, set and print"},
         {"unknown control", none, "click Form1.Rest", "line 1: unknown control Form1.Rest"},
         {"unknown window", none, "check Gamma.RelativeDPS 1", "line 1: unknown control Gamma.RelativeDPS"},
@@ -163,8 +153,8 @@ TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
         {"unclosed bracket", none, "select Form1.Forward[1 \"Beam Array\"", "line 1: malformed name Form1.Forward[1 \"Beam Array\": a bracket is not closed"},
         {"print: extra text", none, "print Form1.Note Form1.Help", "line 1: print Form1.Note: unexpected text after the value: Form1.Help"},
         {"blank and comment lines count", none, "   \n# a comment\n\t# indented\r\n\r\nclick Form1.Reset\r\n\nbogus\n", "line 7: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         if (k.setup) k.setup(c);
@@ -205,11 +195,8 @@ TEST(Script, EachPrintWritesOneObjectOfTheMatchingNamesInRecordOrder) {
 }
 
 TEST(Script, PrintsEachKindInItsOwnForm) {
-    struct Case {
-        const char* name;
-        Names keys; // empty for a plain value
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; Names keys; /* empty for a plain value */ } cases[] = {
         {"Form1", {"title", "state", "width", "height", "innerWidth", "innerHeight", "enabled", "visible", "back", "fore"}},
         {"Form1.Contents", {"left", "top", "width", "height", "enabled", "visible", "back", "fore"}},
         {"Form1.Simplified", {"value", "caption", "tooltip", "enabled", "visible", "back", "fore"}},
@@ -221,8 +208,8 @@ TEST(Script, PrintsEachKindInItsOwnForm) {
         {"Form1.Cline", {"x1", "y1", "x2", "y2", "enabled", "visible", "back", "fore"}},
         {"Form1.VScroll1", {"value", "maximum", "smallStep", "largeStep", "enabled", "visible", "back", "fore"}},
         {"State.ArcDPS[0,1]", {}},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         const std::string value = Printed(RunOn(c, std::string("print ") + k.name), k.name);
@@ -232,15 +219,13 @@ TEST(Script, PrintsEachKindInItsOwnForm) {
 }
 
 TEST(Script, TextsRoundTripThroughEscapes) {
-    struct Case {
-        const char* name;
-        const char* written; // as in the script, quotes included
-        std::string meant;
-    } cases[] = {
+    // clang-format off
+    struct Case { const char* name; const char* written; /* as in the script, quotes included */ std::string meant; } cases[] = {
         {"quotes", R"("say \"hi\"")", "say \"hi\""},   {"backslashes", R"("C:\\Images\\")", "C:\\Images\\"},
         {"tab kept", "\"a\tb\"", "a\tb"},              {"blanks kept", "\"  two  \"", "  two  "},
         {"empty", "\"\"", ""},                         {"hash inside", "\"#1\"", "#1"},
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         const Result r = RunOn(c, std::string("set Form1.Note ") + k.written + "\nprint Form1.Note\n");

@@ -13,14 +13,8 @@ constexpr Colour Yellow = 0x80FFFF, LightGreen = 0xC0FFC0, LightRed = 0xC0C0FF, 
                  MediumRed = 0x8080FF, Green = 0x00FF00, Red = 0x0000FF;
 
 TEST(WeaponCounting, PortTextsToSlots) {
-    struct Case {
-        const char* name;
-        bool relative;
-        const char* forward[4];
-        const char* rear[4];
-        std::vector<std::pair<int, int>> counts; // slot, count; slots not named count 0
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; bool relative; const char* forward[4]; const char* rear[4]; std::vector<std::pair<int, int>> counts; /* slot, count; slots not named count 0 */ } cases[] = {
         {"hints only", true, {}, {}, {}},
         {"arrays", true, {"Beam Array"}, {"Beam Array"}, {{5, 1}, {7, 1}}},
         {"turrets share a slot", true, {nullptr, "Turret"}, {"Turret"}, {{6, 2}}},
@@ -33,8 +27,8 @@ TEST(WeaponCounting, PortTextsToSlots) {
         {"untyped array, custom", false, {"Beam Array"}, {}, {}},
         {"plasma launchers", false, {"Plasma Torpedo Launcher"}, {"Plasma Torpedo Launcher", "Plasma Mine Launcher"}, {{8, 1}, {9, 1}, {10, 1}}},
         {"eight energy weapons", true, {"Dual Cannons", "Beam Array", "Cannon", "Shuttle Beam Array"}, {"Turret", "Beam Array", "Beam Array", "Turret"}, {{2, 1}, {5, 1}, {4, 1}, {11, 1}, {6, 2}, {7, 2}}},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         if (!k.relative) {
@@ -74,15 +68,8 @@ TEST(WeaponCounting, OldNamesAndOmegaPorts) {
 }
 
 TEST(FiringArcs, BoxesInUseByLoadout) {
-    struct Case {
-        const char* name;
-        const char* forward[4];
-        const char* rear[4];
-        bool simplified;
-        std::set<int> boxes;
-        const char* box5;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; const char* forward[4]; const char* rear[4]; bool simplified; std::set<int> boxes; const char* box5; } cases[] = {
         {"empty", {}, {}, false, {}, nullptr},
         {"only turrets", {"Turret"}, {"Turret"}, false, {5}, "Full 360"},
         {"dc and turrets", {"Dual Cannons"}, {"Turret"}, false, {0, 5}, "Other 315"},
@@ -101,8 +88,8 @@ TEST(FiringArcs, BoxesInUseByLoadout) {
         {"cannons, shuttle array", {"Cannon", "Shuttle Beam Array"}, {}, false, {3, 10}, nullptr},
         {"simplified, empty", {}, {}, true, {2, 7, 9}, nullptr},
         {"simplified, cannons", {"Dual Cannons"}, {"Beam Array"}, true, {2, 7, 9}, nullptr},
-        // clang-format on
     };
+    // clang-format on
     for (const auto& k : cases) {
         Calculator c;
         c.main.Simplified.setValue(k.simplified ? 1 : 0);
@@ -164,12 +151,8 @@ TEST(FiringArcs, TorpedoesAloneUseTheFrontBurst) {
 }
 
 TEST(FiringArcs, DifferenceColourBands) {
-    struct Case {
-        const char* name;
-        float alpha, omega;
-        Colour alphaBack, omegaBack;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; float alpha, omega; Colour alphaBack, omegaBack; } cases[] = {
         {"even", 100.0f, 100.0f, Yellow, Yellow},
         {"exactly 1.05", 100.0f, 105.0f, Yellow, Yellow},
         {"above 1.05", 100.0f, 106.0f, LightRed, LightGreen},
@@ -182,8 +165,8 @@ TEST(FiringArcs, DifferenceColourBands) {
         {"Alpha zero", 0.0f, 50.0f, DarkGrey, Green},
         {"Omega zero", 50.0f, 0.0f, Green, DarkGrey},
         {"missing data", -1.0f, 300.0f, Yellow, Yellow},
-        // clang-format on
     };
+    // clang-format on
     for (const auto& k : cases) {
         Calculator c;
         DifferenceColor(c, 4, k.alpha, k.omega);

@@ -23,13 +23,8 @@ void Load(Calculator& c, int type, const Skills& k, bool relative = true) {
 }
 
 TEST(Burst, TorpedoSkill) {
-    struct Case {
-        const char* name;
-        int type;
-        Skills skills;
-        float factor;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int type; Skills skills; float factor; } cases[] = {
         {"none", kQuantum, {}, 1.0f},
         {"Quantum High Yield 1", kQuantum, {.highYield = 1}, 2.227f},
         {"Transphasic Spread 1", kTransphasic, {.spread = 1}, 1.464f},
@@ -39,8 +34,8 @@ TEST(Burst, TorpedoSkill) {
         {"High Yield first", kQuantum, {.highYield = 1, .spread = 3, .targets = 3}, 2.227f},
         {"Tricobalt High Yield", kTricobalt, {.highYield = 3}, 1.0f},
         {"Tricobalt Spread", kTricobalt, {.spread = 2, .targets = 4}, 1.0f},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         Load(c, k.type, k.skills);
@@ -49,15 +44,8 @@ TEST(Burst, TorpedoSkill) {
 }
 
 TEST(Burst, Values) {
-    struct Case {
-        const char* name;
-        bool relative;
-        int type;
-        Skills skills;
-        int torpedoes, mines;
-        float burst; // custom mode: on torpedo damage 1000 times the critical factor
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; bool relative; int type; Skills skills; int torpedoes, mines; float burst; /* custom mode: on torpedo damage 1000 times the critical factor */ } cases[] = {
         {"nothing", true, kQuantum, {}, 0, 0, 0.0f},
         {"one Quantum launcher", true, kQuantum, {}, 1, 0, 1092.354f},
         {"four burst like one", true, kQuantum, {}, 4, 0, 1092.354f},
@@ -69,8 +57,8 @@ TEST(Burst, Values) {
         {"Heavy Plasma F = 3.48", false, kPlasma, {.highYield = 1, .targets = 3}, 1, 0, 2.594f * 3.48f},
         {"custom Tricobalt T = 1", false, kTricobalt, {.highYield = 2}, 1, 0, 1.0f},
         {"custom Spread at nine", false, kQuantum, {.spread = 2, .targets = 9}, 1, 0, 2.198f * 6},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         Load(c, k.type, k.skills, k.relative);
@@ -114,14 +102,8 @@ TEST(Burst, OverloadMeetsResistanceAndAccuracyTwice) {
 }
 
 TEST(Burst, ToolTip) {
-    struct Case {
-        const char* name;
-        int type;
-        Skills skills;
-        int torpedoes, mines, arrays;
-        const char* text;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int type; Skills skills; int torpedoes, mines, arrays; const char* text; } cases[] = {
         {"nothing", kQuantum, {}, 0, 0, 0, ""},
         {"torpedo", kQuantum, {}, 2, 0, 0, "Quantum Torpedo: 1092.354"},
         {"salvo", kQuantum, {.highYield = 2}, 1, 0, 0, "Quantum Torpedo Salvo 2: 2823.736"},
@@ -133,8 +115,8 @@ TEST(Burst, ToolTip) {
         {"dispersal", kQuantum, {.mines = 2}, 0, 1, 0, "Mine Dispersal Pattern 2: 3277.063"},
         {"overload", kQuantum, {.overload = 1}, 0, 0, 1, "Beam Array Overload 1: 849.43"},
         {"all three", kQuantum, {.overload = 1}, 1, 1, 1, "Quantum Torpedo: 1092.354, Mine Cluster: 1365.443, Beam Array Overload 1: 849.43"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         Load(c, k.type, k.skills);

@@ -10,12 +10,8 @@ namespace {
 using namespace testing;
 
 TEST(Cascade, TierCarriesOverToTheNewClass) {
-    struct Case {
-        const char* name;
-        int faction, rankRow; // faction -1 unrestricted
-        const char *fromClass, *fromTier, *toClass, *expected;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int faction, rankRow; /* faction -1 unrestricted */ const char *fromClass, *fromTier, *toClass, *expected; } cases[] = {
         {"escort to cruiser", -1, 0, "Escort", "Tier 5- Various", "Cruiser", "Tier 5- Various"},
         {"escort to carrier", -1, 0, "Escort", "Tier 5- Various", "Carrier", "Tier 5"},
         {"bop 1 to raptor", -1, 0, "Bird of Prey", "Tier 1- B'rel Bird of Prey", "Raptor", "Tier 5- Qin Heavy Raptor"},
@@ -23,8 +19,8 @@ TEST(Cascade, TierCarriesOverToTheNewClass) {
         {"escorts begin at 2", 0, 3, "Cruiser", "Tier 3- Heavy Cruiser", "Escort", "Tier 3- Heavy Escort"},
         {"klingon shuttle", 1, 7, "Battle Cruiser", "Tier 4- Vor'cha Battle Cruiser", "Shuttlecraft ", "Variable Tier- Shuttlecraft"},
         {"escort 2 to cruiser", 0, 7, "Escort", "Tier 2- Escort", "Cruiser", "Tier 2- Cruiser"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
         Calculator c;
@@ -42,23 +38,16 @@ TEST(Cascade, TierCarriesOverToTheNewClass) {
 TEST(Cascade, CaptainChangesRebuildTheClassList) {
     const Rows fed = {"Cruiser", "Escort", "Shuttlecraft", "Science Vessel"};
     const Rows kdf = {"Allied Vessel", "Battle Cruiser", "Bird of Prey", "Carrier", "Raptor", "Shuttlecraft "};
-    struct Case {
-        const char* name;
-        int faction, rankRow; // faction -1 unrestricted
-        const char* shipClass;
-        int newFaction, newRankRow;
-        Rows classes;
-        const char *selectedClass, *selectedTier;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int faction, rankRow; /* faction -1 unrestricted */ const char* shipClass; int newFaction, newRankRow; Rows classes; const char *selectedClass, *selectedTier; } cases[] = {
         {"rank drop cuts the tier", 0, 7, "Cruiser", 0, 3, fed, "Cruiser", "Tier 3- Heavy Cruiser"},
         {"science vessel at 2", 0, 4, "Science Vessel", 0, 2, fed, "Science Vessel", "Tier 2- Science Vessel"},
         {"science vessel gone at 1", 0, 4, "Science Vessel", 0, 1, {"Cruiser", "Shuttlecraft"}, "Cruiser", "Tier 1- Light Cruiser"},
         {"unrestricted escort stays", -1, 0, "Escort", 0, 7, fed, "Escort", "Tier 5- Various"},
         {"other faction: row 0", 0, 7, "Escort", 1, 7, kdf, "Allied Vessel", "Tier 5"},
         {"shuttles differ by faction", 0, 7, "Shuttlecraft", 1, 7, kdf, "Allied Vessel", "Tier 5"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
         Calculator c;
@@ -167,21 +156,16 @@ std::string White(const VesselSettings& s) {
 }
 
 TEST(Cascade, ConsoleLimitOfTheShip) {
-    struct Case {
-        const char *name, *shipClass;
-        Vessel v;
-        int keep, sameAsAlpha;
-        const char *equipped, *white, *limit;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char *name, *shipClass; Vessel v; int keep, sameAsAlpha; const char *equipped, *white, *limit; } cases[] = {
         {"type-8 unequips all", "Shuttlecraft", 1, 0, 1, "0000", "----", "0"},
         {"unrestricted: four", "Unrestricted", 1, 0, 1, "1111", "wwww", "4"},
         {"science vessel: three", "Science Vessel", 1, 0, 1, "1110", "www-", "3"},
         {"keep leaves the flags", "Shuttlecraft", 1, -1, 1, "1010", "----", "0"},
         {"mirrored omega stays grey", "Science Vessel", 2, 0, 1, "1110", "----", "3"},
         {"free omega turns white", "Science Vessel", 2, 0, 0, "1110", "www-", "3"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
         Calculator c;

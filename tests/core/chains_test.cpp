@@ -14,12 +14,8 @@ using testing::PlainCustomWeapons;
 void Nines(Calculator& c) { testing::CustomCombat(c, 1, "9", "9", "9"); }
 
 TEST(Chains, FieldsReachTheArcs) {
-    struct Case {
-        const char* name;
-        void (*change)(Calculator&);
-        float row0; // 0: only that the skill raised it above plain custom weapons
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; void (*change)(Calculator&); float row0; /* 0: only that the skill raised it above plain custom weapons */ } cases[] = {
         {"relative mode", [](Calculator&) {}, 100.0f},
         {"accuracy", [](Calculator& c) { c.Alpha().Accuracy.setValue(1); }, 50.0f},
         {"accuracy on and off", [](Calculator& c) { c.Alpha().Accuracy.setValue(1); c.Alpha().Accuracy.setValue(0); }, 100.0f},
@@ -31,8 +27,8 @@ TEST(Chains, FieldsReachTheArcs) {
         {"FAW, two targets", [](Calculator& c) { c.skills[1].BeamSkillActivated.setValue(1); c.skills[1].Targets.setText("2"); }, 240.0f},
         {"FAW level 3", [](Calculator& c) { c.skills[1].BeamSkillActivated.setValue(1); c.skills[1].BeamSkillLevel.setIndex(2); }, 135.0f},
         {"reserved level 47", [](Calculator& c) { c.Alpha().CriticalSettings.setValue(0); c.Alpha().CriticalSkill[1].setText("47"); }, 96.735f},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         c.main.Forward[1].setText("Beam Array");
@@ -60,13 +56,8 @@ TEST(Chains, RelativeDPSIsOneSettingForBothVessels) {
 }
 
 TEST(Chains, SettingsBoxes) {
-    struct Case {
-        const char* name;
-        void (*change)(Calculator&);
-        const Label& (*box)(const Calculator&);
-        const char* caption;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; void (*change)(Calculator&); const Label& (*box)(const Calculator&); const char* caption; } cases[] = {
         {"displayed damage", PlainCustomWeapons, [](const Calculator& c) -> const Label& { return c.Alpha().CalculatedWeaponDPS[4]; }, "160"},
         {"Tactical Team", [](Calculator& c) { PlainCustomWeapons(c); c.skills[1].TacticalTeamActivated.setValue(1); }, [](const Calculator& c) -> const Label& { return c.Alpha().CalculatedWeaponDPS[4]; }, "189"},
         {"target defense", [](Calculator& c) { c.Alpha().Accuracy.setValue(1); Nines(c); c.Alpha().TargetDefense.setText("20"); }, [](const Calculator& c) -> const Label& { return c.Alpha().HitRate; }, "90%"},
@@ -75,8 +66,8 @@ TEST(Chains, SettingsBoxes) {
         {"Borg module", [](Calculator& c) { Nines(c); c.Alpha().CriticalItem.setIndex(2); }, [](const Calculator& c) -> const Label& { return c.Alpha().CritH; }, "5.42%"},
         {"Attack Pattern Alpha", [](Calculator& c) { Nines(c); PlainCustomWeapons(c); c.skills[1].AttackPatternAlphaLevel.setIndex(0); c.skills[1].AttackPatternAlpha.setValue(1); }, [](const Calculator& c) -> const Label& { return c.Alpha().CritH; }, "6.28%"},
         {"target resistance", [](Calculator& c) { Nines(c); c.Alpha().DamageResistance.setValue(1); c.Alpha().TargetResistance.setText("100"); }, [](const Calculator& c) -> const Label& { return c.Alpha().DamageReduction; }, "50%"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         k.change(c);

@@ -28,14 +28,8 @@ TEST(Combat, DefaultsGiveTheStandardCriticalFactor) {
 }
 
 TEST(Combat, HitRate) {
-    struct Case {
-        const char* name;
-        void (*setUp)(Calculator&);
-        const char *box, *tip;
-        float factor, excess;
-        const char *critH, *critD;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; void (*setUp)(Calculator&); const char *box, *tip; float factor, excess; const char *critH, *critD; } cases[] = {
         {"defaults", [](Calculator&) {}, "50%", "Hit Rate- Base: 95%, Attack Vectors Skill: 15%, Target Defense: -60%", 0.5f, 0.0f, "4.5%", "75%"},
         {"excess from three [Acc]", [](Calculator& c) { CustomCombat(c, 1, "9", "", ""); c.Alpha().TargetDefense.setText("0"); AccMods(c, 3); },
          "140%", "Hit Rate- Base: 95%, Attack Vectors Skill: 15%, Weapon Mod [Acc]x3: 30%, Target Defense: -0%", 1.0f, 40.0f, "8.5%", "90%"},
@@ -46,8 +40,8 @@ TEST(Combat, HitRate) {
          "46.4%", "Hit Rate- Base: 95%, Attack Vectors Skill: 11.67%, Target Defense: -60.25%", 0.4641667f, 0.0f, nullptr, nullptr},
         {"relative mode ignores mods", [](Calculator& c) { AccMods(c, 3); c.Alpha().RelativeDPS.setValue(1); for (int i = 1; i <= 3; ++i) c.Alpha().WeaponMod[i].setIndex(1); },
          "50%", "Hit Rate- Base: 95%, Attack Vectors Skill: 15%, Target Defense: -60%", 0.5f, 0.0f, "4.5%", "75%"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         k.setUp(c);
@@ -82,15 +76,8 @@ TEST(Combat, ExcessAccuracyFeedsTheCriticalTexts) {
 }
 
 TEST(Combat, CriticalBoxes) {
-    struct Case {
-        const char* name;
-        Vessel vessel;
-        const char *vectors, *strategy;
-        int item;
-        const char* mods; // custom weapons with these mod indices in slots 1..3; relative mode if null
-        const char *critH, *chanceTip, *critD, *severityTip;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; Vessel vessel; const char *vectors, *strategy; int item; const char* mods; /* custom weapons with these mod indices in slots 1..3; relative mode if null */ const char *critH, *chanceTip, *critD, *severityTip; } cases[] = {
         {"Alpha: two decimals", 1, "5", "5", -1, nullptr, "4.17%", "Critical Chance- Base: 2.5%, Attack Vectors: 1.67%", "67.3%", "Critical Severity- Base: 50%, Battle Strategy: 17.31%"},
         {"Omega: whole numbers", 2, "5", "5", -1, nullptr, "4.5%", "Critical Chance- Base: 2.5%, Attack Vectors: 2%", "67%", "Critical Severity- Base: 50%, Battle Strategy: 17%"},
         {"empty skills", 1, "", "N/A", -1, nullptr, "2.5%", "Critical Chance- Base: 2.5%", "50%", "Critical Severity- Base: 50%"},
@@ -101,8 +88,8 @@ TEST(Combat, CriticalBoxes) {
         {"[CrtD]x3", 1, "9", "9", -1, "222", "4.5%", nullptr, "135%", "Critical Severity- Base: 50%, Battle Strategy: 25%, Weapon Mod [CrtD]x3: 60%"},
         {"one [CrtD]", 1, "9", "9", -1, "200", "4.5%", nullptr, "95%", "Critical Severity- Base: 50%, Battle Strategy: 25%, Weapon Mod [CrtD]: 20%"},
         {"[CrtH]x3", 1, "9", "9", -1, "333", "10.5%", "Critical Chance- Base: 2.5%, Attack Vectors: 2%, Weapon Mod [CrtH]x3: 6%", "75%", nullptr},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         CustomCombat(c, k.vessel, k.vectors, "", k.strategy, k.item);
@@ -121,15 +108,13 @@ TEST(Combat, CriticalBoxes) {
 }
 
 TEST(Combat, AttackPatternSkill) {
-    struct Case {
-        const char *name, *vectors, *maneuvers, *strategy;
-        int item;
-        double skill;
-    } cases[] = {
+    // clang-format off
+    struct Case { const char *name, *vectors, *maneuvers, *strategy; int item; double skill; } cases[] = {
         {"all nine", "9", "9", "9", -1, 100.0},   {"Aegis adds ten", "9", "9", "9", 1, 110.0},
         {"Borg adds none", "9", "9", "9", 2, 100.0}, {"both add ten", "9", "9", "9", 3, 110.0},
         {"closed boxes", "1", "N/A", "N/A", -1, 6.0}, {"eight", "8", "", "", -1, 17.5},
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         CustomCombat(c, 1, k.vectors, k.maneuvers, k.strategy, k.item);
@@ -139,15 +124,14 @@ TEST(Combat, AttackPatternSkill) {
 }
 
 TEST(Combat, AttackPatternAlphaInTheCriticalBoxes) {
-    struct Case {
-        int level;
-        const char *critH, *chancePiece, *critD, *severityPiece;
-    } cases[] = {
+    // clang-format off
+    struct Case { int level; const char *critH, *chancePiece, *critD, *severityPiece; } cases[] = {
         // Level 1 counts the skill of 100 as 48.
         {1, "6.28%", ", Attack Pattern Alpha 1: 1.776%", "92.8%", ", Attack Pattern Alpha 1: 17.76%"},
         {2, "7.7%", ", Attack Pattern Alpha 2: 3.2%", "107%", ", Attack Pattern Alpha 2: 32%"},
         {3, "8.5%", ", Attack Pattern Alpha 3: 4%", "115%", ", Attack Pattern Alpha 3: 40%"},
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         CustomCombat(c, 1, "9", "9", "9");
@@ -162,14 +146,8 @@ TEST(Combat, AttackPatternAlphaInTheCriticalBoxes) {
 }
 
 TEST(Combat, Resistance) {
-    struct Case {
-        const char* name;
-        void (*setUp)(Calculator&);
-        Vessel vessel;
-        float factor;
-        const char* box;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; void (*setUp)(Calculator&); Vessel vessel; float factor; const char* box; } cases[] = {
         {"off", [](Calculator&) {}, 1, 1.0f, "0%"},
         {"default", [](Calculator& c) { c.Alpha().DamageResistance.setValue(1); }, 1, 1 / 1.1188f, "10.6%"},
         {"not a number", [](Calculator& c) { CustomCombat(c, 1, "9", "9", "9"); c.Alpha().DamageResistance.setValue(1); c.Alpha().TargetResistance.setText("abc"); }, 1, 1.0f, "0%"},
@@ -178,8 +156,8 @@ TEST(Combat, Resistance) {
         {"Beta below zero", [](Calculator& c) { CustomCombat(c, 1, "9", "9", "9"); c.Alpha().DamageResistance.setValue(1); c.state.AttackPatternBeta[1] = 3; }, 1, 1 / 1.2812f, "21.9%"},
         {"mirrored Omega", [](Calculator& c) { c.Omega().DamageResistance.setValue(1); c.Alpha().DamageResistance.setValue(0); }, 2, 1.0f, "0%"},
         {"free Omega", [](Calculator& c) { c.Omega().SameAsAlpha.setValue(0); c.Omega().DamageResistance.setValue(1); }, 2, 1 / 1.1188f, "10.6%"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         k.setUp(c);

@@ -35,13 +35,8 @@ TEST(DpwCurves, PathsAndEdgeCases) {
     CalculatorState s;
     FillDPWTables(s);
     using T = DPW::Type;
-    struct Case {
-        const char* name;
-        int power, kind, count;
-        DPW::Type type;
-        double value;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int power, kind, count; DPW::Type type; double value; } cases[] = {
         {"lone array 100", 100, 5, 1, T::Single, static_cast<double>(96.735f)},
         {"lone array 50", 50, 5, 1, T::Single, static_cast<double>(static_cast<float>(48.3675))},
         {"lone array 125", 125, 5, 1, T::Single, static_cast<double>(static_cast<float>(120.91875))},
@@ -56,8 +51,8 @@ TEST(DpwCurves, PathsAndEdgeCases) {
         {"turret at eight", 100, 6, 8, T::Double, 44.123},
         {"none", 100, 3, 0, T::Zero, 0.0},
         {"none at 35", 35, 1, 0, T::Zero, 0.0},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& c : cases) {
         const DPW d = DPWCalc(s, c.power, c.kind, c.count);
         EXPECT_EQ(d.type, c.type) << c.name;
@@ -66,12 +61,8 @@ TEST(DpwCurves, PathsAndEdgeCases) {
 }
 
 TEST(DpsAssembly, DefaultSettingsAtFullPower) {
-    struct Case {
-        const char* name;
-        int dhc, dc, dbb, cannons, arrays, turrets, shuttles;
-        float expected;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int dhc, dc, dbb, cannons, arrays, turrets, shuttles; float expected; } cases[] = {
         {"nothing", 0, 0, 0, 0, 0, 0, 0, 0.0f},
         {"one array", 0, 0, 0, 0, 1, 0, 0, 100.0f},
         {"dhc, dc, cannon", 1, 1, 0, 1, 0, 0, 0, 350.341f},
@@ -84,8 +75,8 @@ TEST(DpsAssembly, DefaultSettingsAtFullPower) {
         {"one of each but arrays", 1, 1, 1, 1, 0, 1, 0, 457.993f},
         {"eight with dc", 0, 2, 2, 0, 2, 2, 0, -1.0f},
         {"eight with dhc", 1, 0, 0, 3, 0, 4, 0, -1.0f},
-        // clang-format on
     };
+    // clang-format on
     Calculator c;
     for (const Case& l : cases)
         EXPECT_EQ(Dps(c, l.dhc, l.dc, l.dbb, l.cannons, l.arrays, l.turrets, l.shuttles), l.expected) << l.name;
@@ -106,16 +97,8 @@ TEST(DpsAssembly, RangeFactors) {
 }
 
 TEST(DpsAssembly, CriticalMultiplier) {
-    struct Case {
-        const char* name;
-        int criticalSettings;
-        const char* vectors;
-        const char* strategy;
-        int item;
-        bool boosted;
-        float expected;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int criticalSettings; const char* vectors; const char* strategy; int item; bool boosted; float expected; } cases[] = {
         {"defaults", 1, "", "", -1, false, 1.03375f},
         {"defaults, dhc", 1, "", "", -1, true, 0.045f * (0.75f + 0.1f) + 1.0f},
         {"defaults ignore 47", 1, "47", "", -1, false, 1.03375f},
@@ -125,8 +108,8 @@ TEST(DpsAssembly, CriticalMultiplier) {
         {"maximum skills", 0, "9", "9", 0, false, (0.025f + (18.0f * 2.0f) / 1800.0f) * (0.5f + (52.0f * 25.0f) / 5200.0f) + 1.0f},
         {"Borg", 0, "", "", 2, false, (0.025f + 0.0092f) * (0.5f + 0.092f) + 1.0f},
         {"Aegis", 0, "", "", 1, false, 0.025f * 0.5f + 1.0f},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         VesselSettings& a = c.Alpha();
@@ -146,12 +129,8 @@ TEST(DpsAssembly, CriticalMultiplier) {
 }
 
 TEST(DpsAssembly, SkillFactors) {
-    struct Case {
-        const char* name;
-        int beam, rapid, scatter, targets;
-        float beamFactor, cannonFactor, turretFactor;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int beam, rapid, scatter, targets; float beamFactor, cannonFactor, turretFactor; } cases[] = {
         {"none", 0, 0, 0, 1, 1.0f, 1.0f, 1.0f},
         {"FAW 1", 1, 0, 0, 1, 1.2f, 1.0f, 1.0f},
         {"FAW 1, 2 targets", 1, 0, 0, 2, 2.4f, 1.0f, 1.0f},
@@ -160,8 +139,8 @@ TEST(DpsAssembly, SkillFactors) {
         {"RF wins over SV", 0, 3, 2, 3, 1.0f, 1.5f, 1.5f},
         {"SV 1", 0, 0, 1, 1, 1.0f, 1.15f, 1.168f},
         {"SV 3, 5 targets as 3", 0, 0, 3, 5, 1.0f, 1.25f * 3.0f, 1.733f * 3.0f},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         c.state.BeamSkill[1] = static_cast<std::int16_t>(k.beam);

@@ -27,21 +27,16 @@ void Shuttle(Calculator& c, int faction, int rankRow, int grade = 0, int rare = 
 }
 
 TEST(Shuttles, RankRows) {
-    struct Case {
-        const char* name;
-        int faction, rankRow;
-        std::vector<std::string> rows;
-        bool listShown;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int faction, rankRow; std::vector<std::string> rows; bool listShown; } cases[] = {
         {"unrestricted", 0, -1, Numbered("Vice Admiral", 1), false},
         {"Federation lieutenant", 0, 1, Numbered("Lieutenant", 10), true},
         {"Klingon sergeant", 1, 2, Numbered("Sergeant", 10), true},
         {"lower half", 0, 5, Numbered("Rear Admiral, Lower Half", 5), true},
         {"major general", 1, 6, Numbered("Major General", 5), true},
         {"lieutenant general", 1, 7, Numbered("Lieutenant General", 1), false},
-        // clang-format on
     };
+    // clang-format on
     for (const auto& k : cases) {
         Calculator c;
         Shuttle(c, k.faction, k.rankRow);
@@ -104,20 +99,16 @@ TEST(Shuttles, ArrayFactorInRelativeMode) {
     // The rare array's extra critical chance on one array of one.
     const float rare = (0.065f * 0.75f + 1.0f) / 1.03375f;
     const float rearAdmiral3 = 0.70715f + (0.70885f - 0.70715f) / 5 * 2;
-    struct Case {
-        const char* name;
-        int rankRow, grade, rare;
-        float factor;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int rankRow, grade, rare; float factor; } cases[] = {
         {"unrestricted is vice admiral", -1, 0, 0, 0.71044f},
         {"rare steps up a rank", -1, 0, 1, 0.73141f * rare},
         {"lieutenant", 1, 0, 0, 0.62918f},
         {"commander grade 5", 3, 4, 0, 0.68402f + (0.7034f - 0.68402f) / 10 * 4},
         {"rear admiral grade 3 in fives", 5, 2, 0, rearAdmiral3},
         {"captain grade 8, rare", 4, 7, 1, rearAdmiral3 * rare},
-        // clang-format on
     };
+    // clang-format on
     for (const auto& k : cases) {
         Calculator c;
         Shuttle(c, 0, k.rankRow, k.grade, k.rare);
@@ -138,19 +129,14 @@ TEST(Shuttles, ArrayFactorFromTheBeamModifier) {
 }
 
 TEST(Shuttles, PartialCriticalBonus) {
-    struct Case {
-        const char* name;
-        float chance, severity, share;
-        int weapons;
-        float expected;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; float chance, severity, share; int weapons; float expected; } cases[] = {
         {"no extra", 0.0f, 0.0f, 1.0f, 1, 1.0f},
         {"2% on one of one", 0.02f, 0.0f, 1.0f, 1, (0.065f * 0.75f + 1.0f) / 1.03375f},
         {"2% on one of two", 0.02f, 0.0f, 1.0f, 2, ((0.065f * 0.75f + 1.0f) / 1.03375f - 1.0f) / 2 + 1.0f},
         {"20% severity on half", 0.0f, 0.2f, 0.5f, 1, ((0.045f * 0.95f + 1.0f) / 1.03375f - 1.0f) / 2 + 1.0f},
-        // clang-format on
     };
+    // clang-format on
     for (const auto& k : cases) {
         Calculator c;
         EXPECT_NEAR(PartialCriticalBonus(c, 1, false, k.chance, k.severity, k.share, k.weapons), k.expected, 1e-6)
@@ -168,21 +154,16 @@ TEST(MainWindowEvents, Note) {
     const std::string team = "In order to calculate the effects of Tactical Team, you must disable Relative DPS in "
                              "the Advanced Settings.";
     const char* const turrets[4] = {"Turret", "Turret", "Turret", "Turret"};
-    struct Case {
-        const char* name;
-        const char* forward[4];
-        bool fourTurrets, restricted, tacticalTeam;
-        std::string text; // "" for no note
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; const char* forward[4]; bool fourTurrets, restricted, tacticalTeam; std::string text; /* "" for no note */ } cases[] = {
         {"nothing to say", {"Beam Array"}, false, false, false, ""},
         {"unrestricted shuttle", {"Shuttle Beam Array"}, false, false, false, shuttle},
         {"ranked shuttle", {"Shuttle Beam Array"}, false, true, false, ""},
         {"shuttle before dual cannons", {"Dual Cannons", "Dual Cannons", "Shuttle Beam Array", "Cannon"}, true, false, false, shuttle},
         {"eight with dual cannons", {"Dual Cannons", "Dual Cannons", "Cannon", "Cannon"}, true, false, true, dualCannons},
         {"tactical team, relative", {"Beam Array"}, false, false, true, team},
-        // clang-format on
     };
+    // clang-format on
     const char* const none[4] = {};
     for (const auto& k : cases) {
         Calculator c;

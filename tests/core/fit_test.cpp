@@ -21,15 +21,8 @@ FitInput In(bool comparing, WindowState state, int width, int height, WorkArea w
 
 TEST(Fit, SizesBarsAndPage) {
     const WindowState N = WindowState::Normal, M = WindowState::Maximised;
-    struct Case {
-        const char* name;
-        FitInput in;
-        int width, height;
-        bool hBar, vBar;
-        int hMax, hSmall, hLarge, vMax, vSmall, vLarge;
-        bool toLeft, toTop;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; FitInput in; int width, height; bool hBar, vBar; int hMax, hSmall, hLarge, vMax, vSmall, vLarge; bool toLeft, toTop; } cases[] = {
         {"single, large screen", In(false, N, 9950, 9765, kLarge, false), 9950, 9765, false, false, 9825 - 9830, 1, 2, 9360 - 9360, 1, 1, true, true},
         {"comparison, large screen", In(true, N, 14115, 9765, kLarge, true), 14115, 9765, false, false, 0, 1, 1, 0, 1, 1, true, true},
         {"one twip too low", In(false, N, 9950, 9765, {0, 0, 28800, 9764}, false), 9950 + 240, 9764, false, true, 9825 - (10070 - 240), 1, 2, 9360 - 9359, 1, 1, true, false},
@@ -45,8 +38,8 @@ TEST(Fit, SizesBarsAndPage) {
         {"single after comparison, narrow", In(false, N, 12000, 10005, {0, 0, 12000, 15600}, true), 9950, 9765, false, false, -5, 1, 2, 0, 1, 1, true, true},
         {"design width, low screen: short bar", In(false, N, 9950, 9000, {0, 0, 12000, 9000}, true), 9950, 9000, true, true, 9825 - 9590, 15, 59, 9360 - (8595 - 240), 63, 252, false, false},
         {"one twip narrow: negative maximum", In(false, N, 9950, 9765, {0, 0, 9949, 15600}, false), 9949, 10005, true, false, 9825 - 9829, 1, 2, 9360 - (9600 - 240), 1, 1, false, true},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         const FitResult r = Fit(c.in);
@@ -90,12 +83,8 @@ TEST(Fit, BarsAndMinimising) {
 }
 
 TEST(PlaceAtStart, LeavesRoomForTheOtherWindows) {
-    struct Case {
-        const char* name;
-        WorkArea work;
-        int left, top, alphaWidth;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; WorkArea work; int left, top, alphaWidth; } cases[] = {
         {"very wide: middle", {0, 0, 48000, 15600}, 24000, 0, 9780},
         {"room for two graphs", {0, 0, 38400, 21600}, kGraphWindowWidth, 0, 9780},
         {"settings and graph", {0, 0, 36000, 15600}, 9780, 0, 9780},
@@ -106,8 +95,8 @@ TEST(PlaceAtStart, LeavesRoomForTheOtherWindows) {
         {"odd width keeps the twip", {0, 0, 47795, 15600}, 23898, 0, 9780},
         {"height at the limit", {0, 0, 28800, 15330}, 0, 0, 9780},
         {"one below the limit", {0, 0, 28800, 15329}, 0, 0, 9930},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& c : cases) {
         const StartPlace p = PlaceAtStart(c.work, kGraphWindowWidth);
         EXPECT_EQ(p.left, c.left) << c.name;

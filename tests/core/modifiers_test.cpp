@@ -40,13 +40,8 @@ TEST(Modifiers, BareReferenceWeapon) {
 }
 
 TEST(Modifiers, BreakdownPieces) {
-    struct Case {
-        const char* name;
-        void (*setUp)(Calculator&);
-        int box;
-        const char *caption, *tooltip;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; void (*setUp)(Calculator&); int box; const char *caption, *tooltip; } cases[] = {
         {"mark, skill, accolade, TT", [](Calculator& c) { c.Alpha().WeaponMark.setIndex(13); c.Alpha().WeaponSkill[2].setText("8"); c.Alpha().WeaponAccolade[1].setValue(1); c.state.TacticalTeam[1] = 2; },
          4, "440", "Base Damage: 160, Mark Bonus: 192, Skill Bonus:  46.4, Console Bonus:  0, accolade bonus:  3.2, Tactical Team 2: 38.4"},
         {"[Dmg]x3", [](Calculator& c) { for (int i = 1; i <= 3; ++i) c.Alpha().WeaponMod[i].setIndex(4); },
@@ -67,8 +62,8 @@ TEST(Modifiers, BreakdownPieces) {
          6, "1533", "Base Damage: 1503, Mark Bonus: 0, Skill Bonus:  0, Console Bonus:  0, accolade bonus:  30.1"},
         {"mine carries 1.25", [](Calculator& c) { c.Alpha().WeaponAccolade[2].setValue(1); },
          7, "1916", "Base Damage: 1878.8, Mark Bonus: 0, Skill Bonus:  0, Console Bonus:  0, accolade bonus:  37.6"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         PlainCustom(c);
@@ -109,13 +104,8 @@ TEST(Modifiers, OmegaAndRelativeMode) {
 }
 
 TEST(Modifiers, WeaponSkillBonus) {
-    struct Case {
-        const char* name;
-        int kind;
-        const char* boxes[9]; // [1..8]
-        float bonus;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int kind; const char* boxes[9]; /* [1..8] */ float bonus; } cases[] = {
         {"beams", 1, {"", "7", "7", "1", "9", "", "", "", ""}, 17 + 52 + 28},
         {"cannons", 2, {"", "7", "1", "7", "9", "", "", "", ""}, 17 + 52 + 28},
         {"torpedoes", 3, {"", "", "", "", "", "7", "1", "7", "9"}, 17 + 28 + 52},
@@ -123,8 +113,8 @@ TEST(Modifiers, WeaponSkillBonus) {
         {"fraction cut", 1, {"", "7.9", "", "", "", "", "", "", ""}, 17},
         {"closed and empty", 1, {"", "N/A", "", "abc", "", "", "", "", ""}, 0},
         {"above the table", 1, {"", "10", "", "", "", "", "", "", ""}, 0},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         for (int i = 1; i <= 8; ++i)
@@ -134,12 +124,8 @@ TEST(Modifiers, WeaponSkillBonus) {
 }
 
 TEST(Modifiers, ConsoleBonus) {
-    struct Case {
-        const char* name;
-        int console, mark, rarity, equipped, kind;
-        float bonus;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int console, mark, rarity, equipped, kind; float bonus; } cases[] = {
         {"beam, Mk I common", 1, 1, 0, 1, 1, 3.8f},
         {"beam console, cannons", 1, 1, 0, 1, 2, 0.0f},
         {"energy type, cannons", 3, 2, 1, 1, 2, 7.5f},
@@ -150,8 +136,8 @@ TEST(Modifiers, ConsoleBonus) {
         {"step 15 outside the table", 1, 12, 3, 1, 1, 0.0f},
         {"unequipped", 1, 12, 0, 0, 1, 0.0f},
         {"empty slot", 0, 12, 0, 1, 1, 0.0f},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         VesselSettings& a = c.Alpha();

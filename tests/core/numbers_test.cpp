@@ -30,13 +30,12 @@ TEST(Numbers, RoundsHalfToEvenKeepingTheType) {
 }
 
 TEST(Numbers, NumericText) {
-    struct Case {
-        const char* text;
-        std::optional<double> value;
-    } cases[] = {
+    // clang-format off
+    struct Case { const char* text; std::optional<double> value; } cases[] = {
         {"", {}},   {"-", {}},      {"+", {}},   {" ", {}},    {"N/A", {}},   {"abc", {}},   {"1e5", {}},  {"7.5.1", {}},
         {".", {}},  {"7", 7.0},     {" 7 ", 7.0}, {"-40", -40.0}, {"+3", 3.0}, {"11.88", 11.88}, {".5", 0.5}, {"5.", 5.0},
     };
+    // clang-format on
     for (const Case& c : cases) {
         EXPECT_EQ(NumericValue(c.text), c.value) << '"' << c.text << '"';
         EXPECT_EQ(IsNumeric(c.text), c.value.has_value()) << '"' << c.text << '"';
@@ -46,15 +45,14 @@ TEST(Numbers, NumericText) {
 }
 
 TEST(Numbers, PlainAndSignedText) {
-    struct Case {
-        std::string got;
-        const char* expected;
-    } cases[] = {
+    // clang-format off
+    struct Case { std::string got; const char* expected; } cases[] = {
         {PlainText(100.0f), "100"},    {PlainText(282.664f), "282.664"},     {PlainText(0.5f), "0.5"},
         {PlainText(120.91875f), "120.9187"}, {PlainText(1.0 / 3.0), "0.333333333333333"}, {PlainText(-1.0f), "-1"},
         {PlainText(0.0f), "0"},        {SignedText(100.0f), " 100"},         {SignedText(0.5f), " .5"},
         {SignedText(-1.0f), "-1"},     {SignedText(-0.25), "-.25"},          {SignedText(3), " 3"},
     };
+    // clang-format on
     for (const Case& c : cases)
         EXPECT_EQ(c.got, c.expected);
     for (float f : {96.735f, 0.1f, 1.4223658f, 1.03375f, 120.91875f, -1.0f})
@@ -127,21 +125,16 @@ TEST(Fields, WhenAListRaisesItsEvent) {
 }
 
 TEST(Fields, ListRowsAndSelectionStayInStep) {
-    struct Case {
-        const char* name;
-        void (*edit)(List&);
-        int index;
-        std::string text;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; void (*edit)(List&); int index; std::string text; } cases[] = {
         {"clear", [](List& l) { l.clear(); }, -1, ""},
         {"insert before", [](List& l) { l.insertItem("x", 0); }, 2, "b"},
         {"insert after", [](List& l) { l.insertItem("x", 2); }, 1, "b"},
         {"remove before", [](List& l) { l.removeItem(0); }, 0, "b"},
         {"remove the selection", [](List& l) { l.removeItem(1); }, -1, ""},
         {"remove after", [](List& l) { l.removeItem(2); }, 1, "b"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& c : cases) {
         List list({"a", "b", "c"});
         list.setIndex(1);

@@ -76,12 +76,8 @@ TEST(Ports, RowsOfEachListKind) {
 }
 
 TEST(Ports, WeaponsAreSpeltAnewOnARebuild) {
-    struct Case {
-        const char* name;
-        int energy, projectile, list;
-        const char *forwardBefore, *rearBefore, *forwardAfter, *rearAfter;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int energy, projectile, list; const char *forwardBefore, *rearBefore, *forwardAfter, *rearAfter; } cases[] = {
         {"empty stays empty", 0, 1, 2, "Empty", "Empty", "Empty", "Empty"},
         {"hints stay hints", -1, 1, 1, "Forward Weapon Port 3", "Rear Weapon Port 3", "Forward Weapon Port 3", "Rear Weapon Port 3"},
         {"no text: the hint", -1, 1, 1, "", "", "Forward Weapon Port 3", "Rear Weapon Port 3"},
@@ -100,8 +96,8 @@ TEST(Ports, WeaponsAreSpeltAnewOnARebuild) {
         {"typed, known ending", 0, 1, 1, "my Cannon", "a Turret", "Phaser Cannon", "Phaser Turret"},
         {"typed, no known ending", 0, 1, 1, "Photon Torpedoes", "Mines", "Photon Torpedoes", "Mines"},
         {"relative drops the word", -1, 0, 1, "Polaron Turret", "Polaron Beam Array", "Turret", "Beam Array"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         DamageTypes(c, k.energy, k.projectile);
@@ -181,17 +177,14 @@ TEST(WeaponType, StartUpSetsQuantumOnBothVessels) {
 
 TEST(WeaponType, EnergyTypeNamesItsConsoleAndAccolade) {
     const std::string where = "  This can be found in the game under: Player Stats > Passive > From Accolades: Space.";
-    struct Case {
-        int index;
-        const char *console, *accolade, *tooltip;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { int index; const char *console, *accolade, *tooltip; } cases[] = {
         {0, "Phaser Relay (+Phaser Weapons)", "Heavy Hitter Accolade Bonus", "Check if your captain has attained the Heavy Hitter accolade bonus, which grants a bonus of +2% to the base damage of Phaser Weapons."},
         {4, "Polaron Phase Modulator (+Polaron Weapons)", "Enforcer Accolade Bonus", "Check if your captain has attained the Enforcer Accolade bonus, which grants a bonus of +2% to the base damage of Polaron Weapons."},
         {5, "Antiproton Mag Regulator (+Antiproton Weapons)", "Strike from the Record Accolade Bonus", "Check if your captain has attained the Strike from the Record accolade bonus, which grants a bonus of +2% to the base damage of Antiproton Weapons."},
         {-1, "Specific Energy Type (+Energy Weapons)", "Energy Weapon Accolade Bonus", "Check if your captain has attained an Energy Weapon Type accolade bonus, which grants a bonus of +2% to the base damage of a specific Energy Weapon Type."},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         ChooseType(c, 1, 1, 2); // away from the case first, so -1 is a change too
@@ -204,14 +197,8 @@ TEST(WeaponType, EnergyTypeNamesItsConsoleAndAccolade) {
 }
 
 TEST(WeaponType, TypeSkillBoxOpensByRank) {
-    struct Case {
-        const char* name;
-        int k, index, rankRow, relative;
-        const char *before, *text;
-        bool enabled;
-        Colour back;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int k, index, rankRow, relative; const char *before, *text; bool enabled; Colour back; } cases[] = {
         {"closed below commander", 1, 0, 2, 0, "", "N/A", false, Grey},
         {"phaser at commander", 1, 0, 3, 0, "", "9", true, White},
         {"no type at commander", 1, -1, 3, 0, "", "9", true, White},
@@ -225,8 +212,8 @@ TEST(WeaponType, TypeSkillBoxOpensByRank) {
         {"transphasic at captain", 2, 4, 4, 0, "", "9", true, White},
         {"tricobalt needs an admiral", 2, 5, 4, 0, "", "N/A", false, Grey},
         {"relative: projectile untouched", 2, 1, 1, 1, "", "", false, Grey},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
         Calculator c;

@@ -27,17 +27,13 @@ TEST(PowerModel, TestedLevelsWithoutExtrapolation) {
 }
 
 TEST(PowerModel, ExtrapolatedRows) {
-    struct Case {
-        const char* equipment;
-        std::vector<std::string> present, absent;
-        const char* first;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* equipment; std::vector<std::string> present, absent; const char* first; } cases[] = {
         {"0", {"35", "40 est.", "50", "100"}, {"25", "30", "25 (25) est."}, "35"},
         {"15", {"25 (40) est.", "35 (50)", "60 (75)", "100 (115) est."}, {"35"}, "25 (40) est."},
         {"40", {"85 (125)", "90 (125)", "100 (125)", "80 (120) est."}, {}, "25 (65) est."}, // capped at 125
-        // clang-format on
     };
+    // clang-format on
     for (const auto& k : cases) {
         Calculator c;
         Extrapolate(c, 1, k.equipment);
@@ -60,15 +56,13 @@ TEST(PowerModel, ExtrapolatedRows) {
 }
 
 TEST(PowerModel, ShipBonusByClassAndTier) {
-    struct Case {
-        const char* shipClass;
-        const char* tier; // start of the tier row
-        int subclass, bonus;
-    } cases[] = {
+    // clang-format off
+    struct Case { const char* shipClass; const char* tier; /* start of the tier row */ int subclass, bonus; } cases[] = {
         {"Cruiser", "Tier 1", 0, 0},         {"Cruiser", "Tier 5", 0, 5},        {"Escort", "Tier 5", 0, 15},
         {"Science Vessel", "Tier 5", 0, 0},  {"Battle Cruiser", "Tier 5", 0, 10}, {"Bird of Prey", "Tier 1", 0, 15},
         {"Carrier", "Tier 5", 0, 5},         {"Carrier", "Tier 5", 1, 10},
     };
+    // clang-format on
     for (const auto& k : cases) {
         Calculator c;
         c.main.ShipClass[1].click(RowOf(c.main.ShipClass[1], k.shipClass));
@@ -87,15 +81,13 @@ TEST(PowerModel, ShipBonusByClassAndTier) {
 }
 
 TEST(PowerModel, OmegaSnapsToATestedLevel) {
-    struct Case {
-        const char* alphaRow;
-        int omegaPower;
-        const char* sameAsRow;
-    } cases[] = {
+    // clang-format off
+    struct Case { const char* alphaRow; int omegaPower; const char* sameAsRow; } cases[] = {
         {"60 est.", 50, "Same As Alpha- 60 (50)"}, {"40 est.", 35, "Same As Alpha- 40 (35)"},
         {"70 est.", 75, "Same As Alpha- 70 (75)"}, {"90 est.", 100, "Same As Alpha- 90 (100)"},
         {"75", 75, "Same As Alpha- 75"},
     };
+    // clang-format on
     for (const auto& k : cases) {
         Calculator c;
         CompareClicked(c);
@@ -110,20 +102,14 @@ TEST(PowerModel, OmegaSnapsToATestedLevel) {
 }
 
 TEST(PowerModel, BonusDisplay) {
-    struct Case {
-        const char* name;
-        int setting; // row of the tested list
-        const char* skills[5];
-        int warpCore, captain;
-        const char *bonus, *tooltip, *label;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int setting; /* row of the tested list */ const char* skills[5]; int warpCore, captain; const char *bonus, *tooltip, *label; } cases[] = {
         {"nothing", 3, {"", "", "", "", ""}, 0, 0, "0", "Ship Power Bonus: 0", "Current Power Bonus (100 Weapon Power)"},
         {"everything at 35", 0, {"9", "9", "9", "2", "3"}, 1, 1, "27.95", "Ship Power Bonus: 0, Warp Core Training: 3.6,  Warp Theorist: 2,  Weapon Efficiency: 6.93,  Efficient Captain: 1.33,  Efficient Bridge Officers (2): 1.33,  Weapon Performance: 9.75,  Equipment Bonus: 3", "Current Power Bonus (35 Weapon Power)"},
         {"above 75", 3, {"9", "9", "9", "", "3"}, 0, 2, "12.75", "Ship Power Bonus: 0, Warp Core Training: 0,  Weapon Efficiency: 0,  Joined Symbiote: 0,  Weapon Performance: 9.75,  Equipment Bonus: 3", "Current Power Bonus (100 Weapon Power)"},
         {"not numbers", 1, {"N/A", "x", "", "", "-2"}, 0, 0, "-2", "Ship Power Bonus: 0", "Current Power Bonus (50 Weapon Power)"},
-        // clang-format on
     };
+    // clang-format on
     for (const auto& k : cases) {
         Calculator c;
         VesselSettings& a = c.Alpha();

@@ -96,12 +96,8 @@ TEST(Registry, NamesAreUniqueAndPointAtDistinctFields) {
 TEST(Registry, FindsFieldsByTheProgramsNamesAndIndexBases) {
     Calculator c;
     const ControlRegistry registry(c);
-    struct Case {
-        const char* name;
-        std::uintptr_t field;
-        ValueKind kind;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; std::uintptr_t field; ValueKind kind; } cases[] = {
         {"Form1", At(c.main.Form1), ValueKind::Window},
         {"Form1.Forward[1]", At(c.main.Forward[1]), ValueKind::List},
         {"Form1.FiringArcDPS[0]", At(c.main.FiringArcDPS[0]), ValueKind::Label},
@@ -116,8 +112,8 @@ TEST(Registry, FindsFieldsByTheProgramsNamesAndIndexBases) {
         {"State.WeaponCount[11,2]", At(c.state.WeaponCount[11][2]), ValueKind::Int16},
         {"State.ArcShown[13]", At(c.state.ArcShown[13]), ValueKind::Bool},
         {"State.DPWCoefficient[6,8,5]", At(c.state.DPWCoefficient[6][8][5]), ValueKind::Double},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         const ControlRef* ref = registry.find(k.name);
         ASSERT_NE(ref, nullptr) << k.name;

@@ -21,11 +21,8 @@ void ShowLast(Calculator& c) {
 // Each class's pictures as "tier/row=name" words; "last" where the table has
 // no row and the last picture stays.
 TEST(ShipImage, EveryRowOfTheShipTableNamesItsPicture) {
-    struct Case {
-        const char* shipClass;
-        const char* pictures;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* shipClass; const char* pictures; } cases[] = {
         {"Federation", "1/0=ltcru3 1/1=ltcru2 2/0=cru2 2/3=cru2 3/1=cru3a 4/0=cru4 4/1=esc4 4/2=sci4 5/0=dreadnought 5/1=cru5 1/2=last 4/3=last 5/2=last"},
         {"Cruiser", "1/0=ltcru1 1/1=ltcru2 1/2=ltcru3 2/4=cru2 3/0=cru3 3/1=cru3a 4/2=cru4 5/0=cru5 5/1=cru5a 5/2=dreadnought 5/3=cru3a 5/4=cru4 1/3=last 3/2=last 5/5=last"},
         {"Escort", "2/1=esc2 3/0=esc3 4/2=esc4 5/0=esc5 5/1=esc5a 5/2=esc4 1/0=last 5/3=last"},
@@ -37,8 +34,8 @@ TEST(ShipImage, EveryRowOfTheShipTableNamesItsPicture) {
         {"Carrier", "5/0=car5 2/1=car6 5/2=last"},
         {"Raptor", "2/0=rap2 3/1=rap3 4/0=rap4 5/2=rap5 1/0=last"},
         {"Shuttlecraft ", "4/0=kshuttle1 1/1=last"},
-        // clang-format on
     };
+    // clang-format on
     Calculator c;
     for (const Case& k : cases) {
         std::istringstream words(k.pictures);
@@ -88,14 +85,8 @@ TEST(ShipImage, KlingonDrawsAlphaThenOmegaFromTheOneSequence) {
 }
 
 TEST(ShipImage, TranslatedOmegaClasses) {
-    struct Case {
-        const char* alphaClass;
-        int alphaRow;
-        const char* omegaClass;
-        int tier, row;
-        const char *name, *id; // name "last": no picture for that form and tier
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* alphaClass; int alphaRow; const char* omegaClass; int tier, row; const char *name, *id; /* name "last": no picture for that form and tier */ } cases[] = {
         {"Science Vessel", 0, "Klingon Science Vessel", 3, 0, "bop3", "Bird of Prey/3/0"},
         {"Science Vessel", 0, "Klingon Science Vessel", 2, 0, "bop2", "Bird of Prey/2/0"},
         {"Science Vessel", 0, "Klingon Science Vessel", 4, 1, "bop4", "Bird of Prey/4/1"},
@@ -111,8 +102,8 @@ TEST(ShipImage, TranslatedOmegaClasses) {
         {"Allied Vessel", 1, "Federation Allied Vessel", 1, 0, "ltcru1", "Federation Allied Vessel/1/0"},
         {"Allied Vessel", 0, "Federation Allied Vessel", 1, 0, "last", "Federation Allied Vessel/1/0"},
         {"Allied Vessel", 2, "Federation Allied Vessel", 1, 0, "last", "Federation Allied Vessel/1/0"},
-        // clang-format on
     };
+    // clang-format on
     Calculator c;
     for (const Case& k : cases) {
         ShowLast(c);
@@ -133,20 +124,16 @@ TEST(ShipImage, OmegaWithoutATierRowKeepsItsLastPicture) {
 }
 
 TEST(ShipImage, ClineFollowsTheIdsAndTheWidestForwardArc) {
-    struct Case {
-        const char *name, *id1, *id2;
-        bool arc0, arc1, visible;
-        int y1;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char *name, *id1, *id2; bool arc0, arc1, visible; int y1; } cases[] = {
         {"no Omega picture", "Cruiser/5/0", "", true, true, false, 3675},
         {"equal ids", "Cruiser/5/0", "Cruiser/5/0", false, false, false, 3675},
         {"forward 45 in use", "Cruiser/5/0", "Escort/5/0", true, true, true, 3215},
         {"forward 90 in use", "Cruiser/5/0", "Escort/5/0", false, true, true, 3455},
         {"neither", "Cruiser/5/0", "Escort/5/0", false, false, true, 3675},
         {"only forward 45", "Unrestricted", "Klingon/5/0", true, false, true, 3215},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         c.main.ShipImageId[1] = k.id1;
@@ -192,12 +179,8 @@ TEST(ShipImage, ShipImageControlDrawsOneWholePictureForOneShip) {
 }
 
 TEST(ShipImage, ArcOverlayGeometry) {
-    struct Case {
-        int i;
-        double from, to, radius, band;
-        int row, sweeps;
-        double sweepFrom, sweepTo; // the first sweep
-    } cases[] = {
+    // clang-format off
+    struct Case { int i; double from, to, radius, band; int row, sweeps; double sweepFrom, sweepTo; /* the first sweep */ } cases[] = {
         {0, 0, 22.5, 172, 142, 5, 1, -22.5, 22.5}, {1, 0, 45, 156, 142, 52, 1, -45, 45},
         {2, 0, 55, 142, 0, 100, 1, -55, 55},       {3, 0, 90, 142, 0, 100, 1, -90, 90},
         {4, 0, 125, 142, 0, 197, 1, -125, 125},    {5, 0, 180, 142, 0, 197, 1, 0, 360},
@@ -205,6 +188,7 @@ TEST(ShipImage, ArcOverlayGeometry) {
         {8, 90, 125, 157, 0, 244, 2, -125, -90},   {9, 125, 180, 142, 0, 292, 1, 125, 235},
         {10, 90, 180, 142, 0, 292, 1, 90, 270},    {11, 55, 180, 142, 0, 197, 1, 55, 305},
     };
+    // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.i);
         const ArcGeometry g = FiringArcGeometry(k.i);

@@ -18,19 +18,16 @@ void AlphaShip(Calculator& c, int faction, const char* shipClass, const char* ti
 }
 
 TEST(Ships, ClassRowsByFactionAndLevel) {
-    struct Case {
-        int faction, rankRow; // faction -1 unrestricted
-        Rows expected;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { int faction, rankRow; /* faction -1 unrestricted */ Rows expected; } cases[] = {
         {0, 0, {"Cruiser", "Shuttlecraft"}},
         {0, 2, {"Cruiser", "Escort", "Shuttlecraft", "Science Vessel"}},
         {1, 1, {"Bird of Prey", "Shuttlecraft "}},
         {1, 6, {"Battle Cruiser", "Bird of Prey", "Carrier", "Raptor", "Shuttlecraft "}},
         {1, 7, {"Allied Vessel", "Battle Cruiser", "Bird of Prey", "Carrier", "Raptor", "Shuttlecraft "}},
         {-1, 0, {"Unrestricted", "Federation", "   Cruiser", "   Escort", "   Shuttlecraft", "   Science Vessel", "Klingon", "   Allied Vessel", "   Battle Cruiser", "   Bird of Prey", "   Carrier", "   Raptor", "   Shuttlecraft "}},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         AlphaCaptain(c, k.faction, k.rankRow);
@@ -39,12 +36,8 @@ TEST(Ships, ClassRowsByFactionAndLevel) {
 }
 
 TEST(Ships, TierAndSubclassRows) {
-    struct Case {
-        const char* shipClass;
-        int tier, level; // tier 0: the tier rows
-        Rows expected;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* shipClass; int tier, level; /* tier 0: the tier rows */ Rows expected; } cases[] = {
         {"Cruiser", 0, 1, {"Tier 1- Light Cruiser"}},
         {"Escort", 0, 1, {}},
         {"Escort", 0, 4, {"Tier 2- Escort", "Tier 3- Heavy Escort", "Tier 4- Tactical Escort"}},
@@ -73,8 +66,8 @@ TEST(Ships, TierAndSubclassRows) {
         {"Cruiser", 4, 7, {}},
         {"Klingon Science Vessel", 5, 7, {}},
         {"Federation Allied Vessel", 5, 7, {}},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         const Rows rows = k.tier ? SubclassRows(k.shipClass, k.tier, k.level) : TierRows(k.shipClass, k.level);
         EXPECT_EQ(rows, k.expected) << '"' << k.shipClass << "\" tier " << k.tier << " level " << k.level;
@@ -82,15 +75,8 @@ TEST(Ships, TierAndSubclassRows) {
 }
 
 TEST(Ships, PortsAndConsoleSlots) {
-    struct Case {
-        const char* name;
-        int alphaFaction; // -1 unrestricted
-        const char *alphaClass, *alphaTier;
-        int alphaSubclass, omegaFaction, omegaRank; // rows of Omega's own lists
-        Vessel asked;
-        int forward, rear, list, slots;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int alphaFaction; /* -1 unrestricted */ const char *alphaClass, *alphaTier; int alphaSubclass, omegaFaction, omegaRank; /* rows of Omega's own lists */ Vessel asked; int forward, rear, list, slots; } cases[] = {
         {"largest ship", -1, "Unrestricted", "Tier 5- Unrestricted Vessel", -1, 0, 0, 1, 4, 4, 1, 4},
         {"tier 1 cruiser: dual cannons", 0, "Cruiser", "Tier 1- Light Cruiser", 0, 0, 0, 1, 2, 1, 1, 1},
         {"tier 1 light escort: two slots", 0, "Cruiser", "Tier 1- Light Cruiser", 2, 0, 0, 1, 2, 1, 1, 2},
@@ -111,8 +97,8 @@ TEST(Ships, PortsAndConsoleSlots) {
         {"federation allied as cruiser", 1, "Allied Vessel", "Tier 5", 1, 1, 0, 2, 4, 4, 2, 2},
         {"federation allied as escort", 1, "Allied Vessel", "Tier 5", 0, 1, 4, 2, 3, 2, 1, 3},
         {"federation allied as science", 1, "Allied Vessel", "Tier 5", 2, 1, 3, 2, 2, 2, 2, 1},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
         Calculator c;
@@ -144,13 +130,8 @@ TEST(Ships, LoreKeepsItsBlanks) {
 }
 
 TEST(Factions, RankAndFactionOfBothVessels) {
-    struct Case {
-        const char* name;
-        int alphaFaction, alphaRank;            // faction -1: unrestricted
-        int omegaSame, omegaFaction, omegaRank; // rows of Omega's own lists
-        int rank1, faction1, rank2, faction2, unrestricted2;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int alphaFaction, alphaRank;            /* faction -1: unrestricted */ int omegaSame, omegaFaction, omegaRank; /* rows of Omega's own lists */ int rank1, faction1, rank2, faction2, unrestricted2; } cases[] = {
         {"unrestricted alpha ignores its lists", -1, 0, 1, 0, 0, 100, 0, 100, 0, 1},
         {"ensign is level one", 0, 0, 1, 0, 0, 1, 1, 1, 1, 0},
         {"lieutenant shares level one", 0, 1, 1, 0, 0, 1, 1, 1, 1, 0},
@@ -164,8 +145,8 @@ TEST(Factions, RankAndFactionOfBothVessels) {
         {"own omega faction is restricted", -1, 0, 0, 1, 6, 100, 0, 5, 1, 0},
         {"mirrored omega ignores its faction", 0, 5, 1, 2, 0, 5, 1, 5, 1, 0},
         {"omega rank row counts when mirrored", 0, 5, 1, 0, 2, 5, 1, 1, 1, 0},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
         Calculator c;
@@ -180,13 +161,8 @@ TEST(Factions, RankAndFactionOfBothVessels) {
 }
 
 TEST(Factions, OmegaClassOnItsSameAsRow) {
-    struct Case {
-        int alphaFaction; // -1 unrestricted
-        const char *alphaClass, *alphaTier;
-        int omegaFaction; // row of Omega's own faction list
-        const char *omegaTier, *expected;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { int alphaFaction; /* -1 unrestricted */ const char *alphaClass, *alphaTier; int omegaFaction; /* row of Omega's own faction list */ const char *omegaTier, *expected; } cases[] = {
         {0, "Cruiser", "Tier 1- Light Cruiser", 2, "Same As Alpha", "Bird of Prey"},
         {0, "Cruiser", "Tier 2- Cruiser", 2, "Same As Alpha", "Battle Cruiser"},
         {0, "Cruiser", "Tier 2- Cruiser", 2, "Tier 1- B'rel Bird of Prey", "Bird of Prey"},
@@ -208,8 +184,8 @@ TEST(Factions, OmegaClassOnItsSameAsRow) {
         {-1, "Shuttlecraft ", "Tier 5- Unrestricted Vessel", 2, "Same As Alpha", "Shuttlecraft "},
         {-1, "Federation", "Tier 5- Unrestricted Vessel", 2, "Same As Alpha", "Klingon"},
         {-1, "Klingon", "Tier 5- Unrestricted Vessel", 1, "Same As Alpha", "Federation"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(std::string(k.alphaClass) + ", " + k.alphaTier + " for Omega's faction row " +
                      std::to_string(k.omegaFaction));
@@ -231,14 +207,8 @@ TEST(Factions, OmegaClassOnItsSameAsRow) {
 }
 
 TEST(Factions, TierFromTheListText) {
-    struct Case {
-        const char* name;
-        int alphaRank; // -1: unrestricted
-        int omegaRank; // row of Omega's own rank list, 0 same as Alpha
-        const char *alphaClass, *alphaTier, *omegaTier;
-        int tier1, tier2;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; int alphaRank; /* -1: unrestricted */ int omegaRank; /* row of Omega's own rank list, 0 same as Alpha */ const char *alphaClass, *alphaTier, *omegaTier; int tier1, tier2; } cases[] = {
         {"digit after the word", 7, 0, "Cruiser", "Tier 3- Heavy Cruiser", "Same As Alpha", 3, 3},
         {"no selection: tier 5", 7, 0, "Cruiser", "", "Same As Alpha", 5, 5},
         {"cut to omega's rank", -1, 3, "Unrestricted", "Tier 5- Unrestricted Vessel", "Same As Alpha", 5, 2},
@@ -248,8 +218,8 @@ TEST(Factions, TierFromTheListText) {
         {"shuttle at level 6", 6, 0, "Shuttlecraft ", "Variable Tier- Shuttlecraft", "Same As Alpha", 5, 5},
         {"unrestricted shuttle", -1, 0, "Shuttlecraft", "Variable Tier- Shuttlecraft", "Same As Alpha", 5, 5},
         {"omega's own shuttle row", -1, 3, "Shuttlecraft", "Variable Tier- Shuttlecraft", "Variable Tier- Shuttlecraft", 5, 2},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
         Calculator c;
@@ -264,15 +234,13 @@ TEST(Factions, TierFromTheListText) {
 }
 
 TEST(Factions, SubclassRowOfEachVessel) {
-    struct Case {
-        const char* name;
-        int alphaRows, alphaIndex, omegaRows, omegaIndex; // Omega's rows include its same-as row
-        int subclass1, subclass2;
-    } cases[] = {
+    // clang-format off
+    struct Case { const char* name; int alphaRows, alphaIndex, omegaRows, omegaIndex; /* Omega's rows include its same-as row */ int subclass1, subclass2; } cases[] = {
         {"no counterpart in two rows", 3, 2, 3, 0, 2, 0}, {"counterpart in three rows", 3, 2, 4, 0, 2, 2},
         {"omega's own row", 3, 2, 4, 2, 2, 1},            {"nothing selected: row 0", 0, -1, 0, -1, 0, 0},
         {"hidden omega list", 2, 1, 1, 0, 1, 0},
     };
+    // clang-format on
     const Rows names = {"Same As Alpha", "a", "b", "c"};
     for (const Case& k : cases) {
         Calculator c;

@@ -16,13 +16,8 @@ std::string Tip(Calculator& c, const Counts& n) {
 }
 
 TEST(ToolTips, Texts) {
-    struct Case {
-        const char* name;
-        void (*setUp)(CalculatorState&);
-        Counts counts;
-        const char* pattern; // whole text; N: a number in signed form, @: the box's value
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; void (*setUp)(CalculatorState&); Counts counts; const char* pattern; /* whole text; N: a number in signed form, @: the box's value */ } cases[] = {
         {"no weapon", [](CalculatorState&) {}, {}, ""},
         {"one array", [](CalculatorState&) {}, {.arrays = 1}, "1 Beam Array: 100"},
         {"below one", [](CalculatorState& s) { s.AccuracyFactor[1] = 0.005f; }, {.arrays = 1}, "1 Beam Array: .5"},
@@ -46,8 +41,8 @@ TEST(ToolTips, Texts) {
         {"SV, three of five", [](CalculatorState& s) { s.ScatterVolley[1] = 1; s.SkillTargets[1] = 5; }, {.turrets = 3}, "3 Turrets \\(Scatter Volley 1, 3 Targets\\): N"},
         {"cannon skills spare beams", [](CalculatorState& s) { s.RapidFire[1] = 1; }, {.dbb = 1, .cannons = 1}, "1 Dual Beam Bank: N, 1 Cannon \\(Rapid Fire 1\\): N"},
         {"dc without data: 0", [](CalculatorState&) {}, {.dc = 1, .arrays = 7}, "1 Dual Cannons: 0, 7 Beam Arrays: N"},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         k.setUp(c.state);
@@ -92,12 +87,8 @@ void Tick(Flag& box, List& level, int index) {
 }
 
 TEST(SkillState, Levels) {
-    struct Case {
-        const char* name;
-        void (*setUp)(VesselSkills&);
-        Levels expected;
-    } cases[] = {
-        // clang-format off
+    // clang-format off
+    struct Case { const char* name; void (*setUp)(VesselSkills&); Levels expected; } cases[] = {
         {"nothing ticked", [](VesselSkills&) {}, {}},
         {"own boxes", [](VesselSkills& k) { Tick(k.BeamSkillActivated, k.BeamSkillLevel, 1); Tick(k.BeamOverloadActivated, k.BeamOverloadLevel, 2); Tick(k.MineSkillActivated, k.MineSkillLevel, 0); Tick(k.TacticalTeamActivated, k.TacticalTeamLevel, 2); }, {.beam = 2, .overload = 3, .mine = 1, .team = 3}},
         {"level without box", [](VesselSkills& k) { k.BeamSkillLevel.setIndex(2); }, {}},
@@ -115,8 +106,8 @@ TEST(SkillState, Levels) {
         {"targets empty", [](VesselSkills& k) { k.Targets.setText(""); }, {}},
         {"targets 0 stays", [](VesselSkills& k) { k.Targets.setText("0"); }, {.targets = 0}},
         {"targets half to even", [](VesselSkills& k) { k.Targets.setText(" 2.5 "); }, {.targets = 2}},
-        // clang-format on
     };
+    // clang-format on
     for (const Case& k : cases) {
         Calculator c;
         k.setUp(c.skills[1]);
