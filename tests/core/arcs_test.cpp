@@ -1,8 +1,11 @@
+#include "mainwindow/shipimage.h"
 #include "support.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <set>
+#include <sstream>
 
 namespace vantorel {
 namespace {
@@ -210,6 +213,220 @@ TEST(FiringArcs, ComparisonShowsEachSidesOwnValues) {
     EXPECT_EQ(d.main.FiringArcLabel[5].caption(), "Other 270");
     EXPECT_EQ(d.main.CFiringArcLabel[5].caption(), "Other 270");
     EXPECT_TRUE(d.main.CFiringArcDPS[5].visible());
+}
+
+// A picture name that no drawing produces: it stays only if nothing loads.
+const std::string kLast = "last";
+
+void ShowLast(Calculator& c) {
+    c.main.AlphaImage.setImage(kLast);
+    c.main.OmegaImage.setImage(kLast);
+}
+
+// Each class's pictures as "tier/row=name" words; "last" where the table has
+// no row and the last picture stays.
+TEST(ShipImage, EveryRowOfTheShipTableNamesItsPicture) {
+    // clang-format off
+    struct Case { const char* shipClass; const char* pictures; } cases[] = {
+        {"Federation", "1/0=ltcru3 1/1=ltcru2 2/0=cru2 2/3=cru2 3/1=cru3a 4/0=cru4 4/1=esc4 4/2=sci4 5/0=dreadnought 5/1=cru5 1/2=last 4/3=last 5/2=last"},
+        {"Cruiser", "1/0=ltcru1 1/1=ltcru2 1/2=ltcru3 2/4=cru2 3/0=cru3 3/1=cru3a 4/2=cru4 5/0=cru5 5/1=cru5a 5/2=dreadnought 5/3=cru3a 5/4=cru4 1/3=last 3/2=last 5/5=last"},
+        {"Escort", "2/1=esc2 3/0=esc3 4/2=esc4 5/0=esc5 5/1=esc5a 5/2=esc4 1/0=last 5/3=last"},
+        {"Shuttlecraft", "1/0=shuttle1 5/1=shuttle2 3/2=shuttle3 1/3=last"},
+        {"Science Vessel", "2/1=sci2 3/0=sci3 3/1=sci3a 4/0=sci4 5/0=sci5 5/1=sci5a 5/2=sci3a 5/3=sci4 1/0=last 3/2=last 5/4=last"},
+        {"Allied Vessel", "5/0=allied1 2/1=allied2 4/2=allied3 5/3=last"},
+        {"Battle Cruiser", "2/0=bc2 3/1=bc3 4/0=bc4 5/0=bc5 5/1=bc4 1/0=last 5/2=last"},
+        {"Bird of Prey", "1/0=bop1 1/1=bop1a 2/0=bop2 3/2=bop3 4/0=bop4 5/0=bop5 5/1=bop1 1/2=last 5/2=last"},
+        {"Carrier", "5/0=car5 2/1=car6 5/2=last"},
+        {"Raptor", "2/0=rap2 3/1=rap3 4/0=rap4 5/2=rap5 1/0=last"},
+        {"Shuttlecraft ", "4/0=kshuttle1 1/1=last"},
+    };
+    // clang-format on
+    Calculator c;
+    for (const Case& k : cases) {
+        std::istringstream words(k.pictures);
+        for (std::string word; words >> word;) {
+            const int tier = word[0] - '0', row = word[2] - '0';
+            const std::string name = word.substr(4), id = k.shipClass + word.substr(0, 3).insert(0, "/");
+            ShowLast(c);
+            DrawShip(c, k.shipClass, tier, row, k.shipClass, tier, row);
+            EXPECT_EQ(c.main.AlphaImage.image(), name) << id;
+            EXPECT_EQ(c.main.OmegaImage.image(), name) << id;
+            EXPECT_EQ(c.main.ShipImageId[1], id);
+            EXPECT_EQ(c.main.ShipImageId[2], id);
+        }
+    }
+    ShowLast(c);
+    DrawShip(c, "Unrestricted", 3, 2, "Unrestricted", 3, 2);
+    EXPECT_EQ(c.main.AlphaImage.image(), "unrestricted");
+    EXPECT_EQ(c.main.ShipImageId[1], "Unrestricted");
+    // An unknown class shows the unrestricted ship on Alpha only.
+    for (const char* shipClass : {"", "Starbase", "Cruiser ", "cruiser"}) {
+        ShowLast(c);
+        DrawShip(c, shipClass, 5, 0, shipClass, 5, 0);
+        EXPECT_EQ(c.main.AlphaImage.image(), "unrestricted") << '"' << shipClass << '"';
+        EXPECT_EQ(c.main.OmegaImage.image(), *shipClass ? kLast : "") << '"' << shipClass << '"';
+    }
+}
+
+TEST(ShipImage, KlingonDrawsAlphaThenOmegaFromTheOneSequence) {
+    const char* const names[] = {"bc5", "bc4", "bop1", "bc3", "rap2"};
+    Calculator c;
+    Random probe = c.random;
+    std::set<std::string> seen;
+    for (int draw = 0; draw < 40; ++draw) {
+        DrawShip(c, "Klingon", 1 + draw % 5, draw % 3, "Klingon", 5, 0);
+        const std::string alpha = names[static_cast<int>(probe.next() * 5.0)];
+        const std::string omega = names[static_cast<int>(probe.next() * 5.0)];
+        EXPECT_EQ(c.main.AlphaImage.image(), alpha) << "draw " << draw;
+        EXPECT_EQ(c.main.OmegaImage.image(), omega) << "draw " << draw;
+        seen.insert(alpha);
+        seen.insert(omega);
+    }
+    EXPECT_EQ(seen.size(), 5u);
+    // Without a second ship only Alpha draws.
+    DrawShip(c, "Klingon", 5, 0, "", 0, 0);
+    EXPECT_EQ(c.main.AlphaImage.image(), names[static_cast<int>(probe.next() * 5.0)]);
+    EXPECT_EQ(c.random.next(), probe.next());
+}
+
+TEST(ShipImage, TranslatedOmegaClasses) {
+    // clang-format off
+    struct Case { const char* alphaClass; int alphaRow; const char* omegaClass; int tier, row; const char *name, *id; /* name "last": no picture for that form and tier */ } cases[] = {
+        {"Science Vessel", 0, "Klingon Science Vessel", 3, 0, "bop3", "Bird of Prey/3/0"},
+        {"Science Vessel", 0, "Klingon Science Vessel", 2, 0, "bop2", "Bird of Prey/2/0"},
+        {"Science Vessel", 0, "Klingon Science Vessel", 4, 1, "bop4", "Bird of Prey/4/1"},
+        {"Science Vessel", 0, "Klingon Science Vessel", 1, 1, "bop1a", "Bird of Prey/1/1"},
+        {"Science Vessel", 0, "Klingon Science Vessel", 5, 0, "allied3", "Allied Vessel/5/2"},
+        {"Science Vessel", 0, "Klingon Science Vessel", 5, 1, "allied3", "Allied Vessel/5/2"},
+        {"Allied Vessel", 0, "Federation Allied Vessel", 5, 0, "esc5", "Federation Allied Vessel/5/0"},
+        {"Allied Vessel", 1, "Federation Allied Vessel", 5, 0, "cru5", "Federation Allied Vessel/5/0"},
+        {"Allied Vessel", 2, "Federation Allied Vessel", 5, 0, "sci5", "Federation Allied Vessel/5/0"},
+        {"Allied Vessel", 0, "Federation Allied Vessel", 4, 0, "esc4", "Federation Allied Vessel/4/0"},
+        {"Allied Vessel", 1, "Federation Allied Vessel", 4, 0, "cru4", "Federation Allied Vessel/4/0"},
+        {"Allied Vessel", 2, "Federation Allied Vessel", 3, 0, "sci3", "Federation Allied Vessel/3/0"},
+        {"Allied Vessel", 1, "Federation Allied Vessel", 1, 0, "ltcru1", "Federation Allied Vessel/1/0"},
+        {"Allied Vessel", 0, "Federation Allied Vessel", 1, 0, "last", "Federation Allied Vessel/1/0"},
+        {"Allied Vessel", 2, "Federation Allied Vessel", 1, 0, "last", "Federation Allied Vessel/1/0"},
+    };
+    // clang-format on
+    Calculator c;
+    for (const Case& k : cases) {
+        ShowLast(c);
+        DrawShip(c, k.alphaClass, 5, k.alphaRow, k.omegaClass, k.tier, k.row);
+        EXPECT_EQ(c.main.OmegaImage.image(), k.name) << k.id << " from Alpha's row " << k.alphaRow;
+        EXPECT_EQ(c.main.ShipImageId[2], k.id);
+    }
+}
+
+TEST(ShipImage, OmegaWithoutATierRowKeepsItsLastPicture) {
+    Calculator c;
+    DrawShip(c, "Cruiser", 5, 0, "Escort", 2, 0);
+    ASSERT_EQ(c.main.OmegaImage.image(), "esc2");
+    DrawShip(c, "Cruiser", 5, 0, "Escort", 1, 0);
+    EXPECT_EQ(c.main.AlphaImage.image(), "cru5");
+    EXPECT_EQ(c.main.OmegaImage.image(), "esc2");
+    EXPECT_EQ(c.main.ShipImageId[2], "Escort/1/0");
+}
+
+TEST(ShipImage, ClineFollowsTheIdsAndTheWidestForwardArc) {
+    // clang-format off
+    struct Case { const char *name, *id1, *id2; bool arc0, arc1, visible; int y1; } cases[] = {
+        {"no Omega picture", "Cruiser/5/0", "", true, true, false, 3675},
+        {"equal ids", "Cruiser/5/0", "Cruiser/5/0", false, false, false, 3675},
+        {"forward 45 in use", "Cruiser/5/0", "Escort/5/0", true, true, true, 3215},
+        {"forward 90 in use", "Cruiser/5/0", "Escort/5/0", false, true, true, 3455},
+        {"neither", "Cruiser/5/0", "Escort/5/0", false, false, true, 3675},
+        {"only forward 45", "Unrestricted", "Klingon/5/0", true, false, true, 3215},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Calculator c;
+        c.main.ShipImageId[1] = k.id1;
+        c.main.ShipImageId[2] = k.id2;
+        c.state.ArcShown[0] = k.arc0;
+        c.state.ArcShown[1] = k.arc1;
+        c.main.Cline.setVisible(!k.visible);
+        DecideCline(c);
+        EXPECT_EQ(c.main.Cline.visible(), k.visible) << k.name;
+        EXPECT_EQ(c.main.Cline.y1(), k.y1) << k.name;
+        EXPECT_EQ(c.main.Cline.y2(), 7890) << k.name;
+    }
+    // Two ships with one picture still show the line; one ship hides it.
+    Calculator c;
+    DrawShip(c, "Federation", 2, 0, "Cruiser", 2, 0);
+    EXPECT_EQ(c.main.OmegaImage.image(), "cru2");
+    DecideCline(c);
+    EXPECT_TRUE(c.main.Cline.visible());
+    DrawShip(c, "Cruiser", 4, 0, "", 0, 0);
+    EXPECT_EQ(c.main.AlphaImage.image(), "cru4");
+    EXPECT_EQ(c.main.OmegaImage.image(), "");
+    EXPECT_EQ(c.main.ShipImageId[2], "");
+    DecideCline(c);
+    EXPECT_FALSE(c.main.Cline.visible());
+}
+
+TEST(ShipImage, ShipImageControlDrawsOneWholePictureForOneShip) {
+    // At the start Omega is on its same-as rows: the same ship as Alpha. The
+    // line is left alone unless comparing.
+    for (int comparing : {0, -1}) {
+        Calculator c;
+        c.state.Comparing = comparing;
+        c.main.OmegaImage.setImage(kLast);
+        c.main.ShipImageId[2] = "Escort/5/0";
+        c.main.Cline.setVisible(true);
+        ShipImageControl(c);
+        EXPECT_EQ(c.main.AlphaImage.image(), "unrestricted") << comparing;
+        EXPECT_EQ(c.main.OmegaImage.image(), "") << comparing;
+        EXPECT_EQ(c.main.ShipImageId[1], "Unrestricted") << comparing;
+        EXPECT_EQ(c.main.ShipImageId[2], "") << comparing;
+        EXPECT_EQ(c.main.Cline.visible(), comparing == 0) << comparing;
+    }
+}
+
+TEST(ShipImage, ArcOverlayGeometry) {
+    // clang-format off
+    struct Case { int i; double from, to, radius, band; int row, sweeps; double sweepFrom, sweepTo; /* the first sweep */ } cases[] = {
+        {0, 0, 22.5, 172, 142, 5, 1, -22.5, 22.5}, {1, 0, 45, 156, 142, 52, 1, -45, 45},
+        {2, 0, 55, 142, 0, 100, 1, -55, 55},       {3, 0, 90, 142, 0, 100, 1, -90, 90},
+        {4, 0, 125, 142, 0, 197, 1, -125, 125},    {5, 0, 180, 142, 0, 197, 1, 0, 360},
+        {6, 55, 90, 157, 0, 148, 2, -90, -55},     {7, 55, 125, 157, 0, 196, 2, -125, -55},
+        {8, 90, 125, 157, 0, 244, 2, -125, -90},   {9, 125, 180, 142, 0, 292, 1, 125, 235},
+        {10, 90, 180, 142, 0, 292, 1, 90, 270},    {11, 55, 180, 142, 0, 197, 1, 55, 305},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        SCOPED_TRACE(k.i);
+        const ArcGeometry g = FiringArcGeometry(k.i);
+        EXPECT_EQ(g.fromDegrees, k.from);
+        EXPECT_EQ(g.toDegrees, k.to);
+        EXPECT_EQ(g.radius, k.radius);
+        EXPECT_EQ(g.bandInner, k.band);
+        EXPECT_EQ(g.leaderRow, k.row);
+        EXPECT_EQ(g.wholeCircle, k.i == 5);
+        ASSERT_EQ(g.sweepCount, k.sweeps);
+        EXPECT_EQ(g.sweeps[0].from, k.sweepFrom);
+        EXPECT_EQ(g.sweeps[0].to, k.sweepTo);
+        if (k.sweeps == 2) {
+            EXPECT_EQ(g.sweeps[1].from, -k.sweepTo);
+            EXPECT_EQ(g.sweeps[1].to, -k.sweepFrom);
+        }
+        // The leaders end on the outer arc, inside the sector, mirrored.
+        const double dx = ArcCentre.x - g.leftAnchor.x, dy = ArcCentre.y - g.leftAnchor.y;
+        EXPECT_NEAR(std::hypot(dx, dy), k.radius, 1e-9);
+        const double bearing = std::atan2(dx, dy) * 180.0 / 3.14159265358979323846;
+        EXPECT_GE(bearing, k.from - 1e-9);
+        EXPECT_LE(bearing, k.to + 1e-9);
+        EXPECT_DOUBLE_EQ(g.rightAnchor.x, 359.0 - g.leftAnchor.x);
+        EXPECT_EQ(g.rightAnchor.y, g.leftAnchor.y);
+        // Where the row crosses the arc the leader runs straight across.
+        if (k.i != 0) { EXPECT_EQ(g.leftAnchor.y, k.row); }
+    }
+    // Row 5 lies above the reach of Forward 45: its leader meets the corner.
+    const ArcGeometry g0 = FiringArcGeometry(0);
+    const ArcPoint corner = PointOnBearing(-22.5, 172);
+    EXPECT_NEAR(g0.leftAnchor.x, corner.x, 1e-9);
+    EXPECT_NEAR(g0.leftAnchor.y, corner.y, 1e-9);
+    EXPECT_EQ(FiringArcGeometry(12).sweepCount, 0);
 }
 
 } // namespace

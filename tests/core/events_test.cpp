@@ -246,5 +246,255 @@ TEST(MainWindowEvents, SimplifiedCaptions) {
     }
 }
 
+using testing::Rows;
+
+std::vector<Control*> OmegaColumn(MainSelection& m) {
+    return {&m.ShipClass[2],      &m.ShipTier[2], &m.ShipSubclass[2], &m.PowerLevel[2],
+            &m.TargetDistance[2], &m.Skills[2],   &m.Advanced[2],     &m.CReset};
+}
+
+TEST(StartUp, FreshCalculator) {
+    Calculator c;
+    EXPECT_EQ(c.state.Comparing, 0);
+    for (int row = 0; row <= 7; ++row)
+        EXPECT_EQ(c.state.ArcDPS[row][1] + c.state.ArcDPS[row][2], 0.0f) << row;
+    for (int i = 0; i <= 13; ++i)
+        EXPECT_FALSE(c.main.FiringArcDPS[i].visible() || c.main.CFiringArcDPS[i].visible()) << i;
+    EXPECT_EQ(GetPowerLevel(c, 1, false), 100);
+    EXPECT_EQ(GetPowerLevel(c, 1, true), 100);
+    EXPECT_EQ(c.main.PowerLevel[1].rows(), (Rows{"35", "50", "75", "100", "125"}));
+    EXPECT_EQ(c.main.PowerLevel[1].text(), "100");
+    EXPECT_TRUE(c.main.PowerLevel[1].enabled());
+    EXPECT_EQ(c.main.PowerLevel[2].rows(), (Rows{"Same As Alpha- 100", "35", "50", "75", "100", "125"}));
+    EXPECT_EQ(c.main.PowerLevel[2].index(), 0);
+    EXPECT_EQ(c.main.TargetDistance[1].index() + c.main.TargetDistance[2].index() + c.main.ShipClass[1].index(), 0);
+    EXPECT_EQ(c.Alpha().WeaponType[2].index(), 1);
+    EXPECT_FALSE(c.main.Note.visible() || c.main.ShuttleRank[1].visible());
+    // A hidden Omega reads no power of its own.
+    for (int i = 0; i < c.main.PowerLevel[2].count(); ++i) {
+        c.main.PowerLevel[2].setIndex(i);
+        EXPECT_EQ(GetPowerLevel(c, 2, false), 35) << i;
+        EXPECT_EQ(GetPowerLevel(c, 2, true), 35) << i;
+    }
+}
+
+TEST(Comparison, CompareShowsOmega) {
+    Calculator c;
+    MainSelection& m = c.main;
+    m.Compare.press();
+    EXPECT_NE(c.state.Comparing, 0);
+    // The subclass list shows only where the class has subclasses.
+    for (Control* ctl : OmegaColumn(m))
+        if (ctl != &m.ShipSubclass[2]) { EXPECT_TRUE(ctl->visible()); }
+    EXPECT_EQ(m.Form1.width(), 14115);
+    EXPECT_TRUE(m.Primarylabel.visible() && m.HideCompare.visible());
+    EXPECT_FALSE(m.Compare.visible());
+    EXPECT_EQ(m.Note.left(), 3720);
+    for (int i = 1; i <= 4; ++i)
+        EXPECT_TRUE(c.Alpha().CopySettings[i].visible()) << i;
+    EXPECT_EQ(GetPowerLevel(c, 2, false), 100);
+}
+
+TEST(Comparison, HideCompareResetsOmega) {
+    Calculator c;
+    MainSelection& m = c.main;
+    m.Compare.press();
+    m.Forward[1].setText("Beam Array");
+    m.CForward[1].setText("Dual Cannons");
+    m.CRear[1].setText("Turret");
+    m.ShipClass[2].click(2);
+    m.TargetDistance[2].click(4);
+    c.Omega().Form.setVisible(true);
+    c.Omega().SameAsAlpha.setValue(0);
+    c.skills[2].SameAsAlpha.setValue(0);
+    m.Advanced[2].setCaption("Hide Settings");
+    CalculateFiringArcs(c);
+    c.state.ArcDPS[6][2] = 50.0f;
+    ASSERT_NE(c.state.ArcDPS[0][2], 0.0f);
+    ASSERT_NE(m.FiringArcDPS[0].back(), White);
+
+    m.HideCompare.press();
+    EXPECT_EQ(c.state.Comparing, 0);
+    EXPECT_FALSE(c.Omega().Form.visible());
+    EXPECT_EQ(c.Omega().SameAsAlpha.value() + c.skills[2].SameAsAlpha.value(), 2);
+    EXPECT_EQ(m.Advanced[2].caption(), "Show Settings");
+    EXPECT_EQ(m.Form1.width(), 9950);
+    EXPECT_FALSE(m.Primarylabel.visible() || m.HideCompare.visible() || m.Cline.visible());
+    EXPECT_TRUE(m.Compare.visible());
+    for (Control* ctl : OmegaColumn(m))
+        EXPECT_FALSE(ctl->visible());
+    EXPECT_EQ(m.Note.left(), 2880);
+    EXPECT_FALSE(m.ShuttleRank[2].visible() || m.ShuttleMod[2].visible());
+    for (int i = 0; i <= 13; ++i) {
+        EXPECT_FALSE(m.CFiringArcDPS[i].visible() || m.CFiringArcLabel[i].visible()) << i;
+        if (i > 11) continue;
+        EXPECT_FALSE(m.CFiringArc[i].visible()) << i;
+        EXPECT_EQ(m.FiringArcDPS[i].back(), White) << i;
+        EXPECT_EQ(m.CFiringArcDPS[i].back(), White) << i;
+    }
+    for (int i = 1; i <= 4; ++i) {
+        EXPECT_EQ(m.CForward[i].text(), "Forward Weapon Port " + std::to_string(i));
+        EXPECT_EQ(m.CRear[i].text(), "Rear Weapon Port " + std::to_string(i));
+        EXPECT_FALSE(m.CForward[i].visible() || m.CRear[i].visible() || c.Alpha().CopySettings[i].visible());
+    }
+    EXPECT_EQ(m.ShipClass[2].index() + m.TargetDistance[2].index() + m.PowerLevel[2].index(), 0);
+    for (int row = 0; row <= 5; ++row)
+        EXPECT_EQ(c.state.ArcDPS[row][2], 0.0f) << row;
+    EXPECT_EQ(c.state.ArcDPS[6][2], 50.0f);
+    // Alpha is calculated alone again, and a hidden Omega counts nothing.
+    EXPECT_EQ(c.state.WeaponCount[2][2], 0);
+    EXPECT_EQ(c.state.ArcDPS[4][1], 100.0f);
+    EXPECT_FALSE(m.FiringArcDPS[0].visible());
+}
+
+TEST(Comparison, HideCompareKeepsOmegasTierRow) {
+    Calculator c;
+    c.main.Compare.press();
+    c.main.ShipTier[2].click(2);
+    const int tier = c.main.ShipTier[2].index();
+    c.main.HideCompare.press();
+    EXPECT_EQ(c.main.ShipTier[2].index(), tier);
+}
+
+TEST(Comparison, OmegaFollowsAlphaOnItsSameAsRows) {
+    Calculator c;
+    c.main.Compare.press();
+    c.main.Forward[1].setText("Beam Array");
+    c.main.CForward[1].setText("Beam Array");
+    c.main.TargetDistance[1].click(5);
+    EXPECT_EQ(c.state.ArcDPS[4][2], c.state.ArcDPS[4][1]);
+    EXPECT_EQ(c.main.FiringArcDPS[4].back(), 0x80FFFF);
+    EXPECT_EQ(c.main.CFiringArcDPS[4].back(), 0x80FFFF);
+}
+
+using testing::RowOf;
+
+// Extrapolation on, with the whole bonus given as equipment.
+void Extrapolate(Calculator& c, Vessel v, const char* equipment) {
+    c.settings[v].ExtrapolatePower.setValue(1);
+    c.settings[v].PowerSkill[5].setText(equipment);
+    CalculatePower(c, v, true);
+}
+
+TEST(PowerModel, TestedLevelsWithoutExtrapolation) {
+    Calculator c;
+    const int expected[5] = {35, 50, 75, 100, 125};
+    for (int i = 0; i < 5; ++i) {
+        c.main.PowerLevel[1].click(i);
+        EXPECT_EQ(GetPowerLevel(c, 1, false), expected[i]);
+        EXPECT_EQ(GetPowerLevel(c, 1, true), expected[i]);
+    }
+    c.main.PowerLevel[1].setText("abc");
+    EXPECT_EQ(GetPowerLevel(c, 1, false), 35) << "nothing selected";
+}
+
+TEST(PowerModel, ExtrapolatedRows) {
+    // clang-format off
+    struct Case { const char* equipment; std::vector<std::string> present, absent; const char* first; } cases[] = {
+        {"0", {"35", "40 est.", "50", "100"}, {"25", "30", "25 (25) est."}, "35"},
+        {"15", {"25 (40) est.", "35 (50)", "60 (75)", "100 (115) est."}, {"35"}, "25 (40) est."},
+        {"40", {"85 (125)", "90 (125)", "100 (125)", "80 (120) est."}, {}, "25 (65) est."}, // capped at 125
+    };
+    // clang-format on
+    for (const auto& k : cases) {
+        Calculator c;
+        Extrapolate(c, 1, k.equipment);
+        const List& power = c.main.PowerLevel[1];
+        for (const std::string& row : k.present)
+            EXPECT_GE(RowOf(power, row), 0) << k.equipment << ": " << row;
+        for (const std::string& row : k.absent)
+            EXPECT_LT(RowOf(power, row), 0) << k.equipment << ": " << row;
+        EXPECT_EQ(power.row(0), k.first) << k.equipment;
+    }
+    // The extrapolated power is the actual power.
+    Calculator c;
+    Extrapolate(c, 1, "15");
+    EXPECT_EQ(c.main.PowerLevel[1].text(), "100 (115) est.");
+    EXPECT_EQ(GetPowerLevel(c, 1, false), 100);
+    EXPECT_EQ(GetPowerLevel(c, 1, true), 115);
+    EXPECT_FLOAT_EQ(PowerBonusAt(c, 1, 100), 15.0f);
+    c.settings[1].ExtrapolatePower.setValue(0);
+    EXPECT_EQ(PowerBonusAt(c, 1, 100), 0.0f);
+}
+
+TEST(PowerModel, ShipBonusByClassAndTier) {
+    // clang-format off
+    struct Case { const char* shipClass; const char* tier; /* start of the tier row */ int subclass, bonus; } cases[] = {
+        {"Cruiser", "Tier 1", 0, 0},         {"Cruiser", "Tier 5", 0, 5},        {"Escort", "Tier 5", 0, 15},
+        {"Science Vessel", "Tier 5", 0, 0},  {"Battle Cruiser", "Tier 5", 0, 10}, {"Bird of Prey", "Tier 1", 0, 15},
+        {"Carrier", "Tier 5", 0, 5},         {"Carrier", "Tier 5", 1, 10},
+    };
+    // clang-format on
+    for (const auto& k : cases) {
+        Calculator c;
+        c.main.ShipClass[1].click(RowOf(c.main.ShipClass[1], k.shipClass));
+        const List& tiers = c.main.ShipTier[1];
+        for (int i = 0; i < tiers.count(); ++i)
+            if (tiers.row(i).rfind(k.tier, 0) == 0) c.main.ShipTier[1].click(i);
+        if (k.subclass > 0) c.main.ShipSubclass[1].click(k.subclass);
+        c.Alpha().ExtrapolatePower.setValue(1);
+        CalculatePower(c, 1, true);
+        EXPECT_EQ(c.state.ShipPowerBonus[1], k.bonus) << k.shipClass << ", " << k.tier << ", " << k.subclass;
+        if (std::string(k.shipClass) == "Bird of Prey") {
+            EXPECT_EQ(c.main.PowerLevel[1].text(), "100 (115) est.");
+            EXPECT_EQ(GetPowerLevel(c, 1, true), 115);
+        }
+    }
+}
+
+TEST(PowerModel, OmegaSnapsToATestedLevel) {
+    // clang-format off
+    struct Case { const char* alphaRow; int omegaPower; const char* sameAsRow; } cases[] = {
+        {"60 est.", 50, "Same As Alpha- 60 (50)"}, {"40 est.", 35, "Same As Alpha- 40 (35)"},
+        {"70 est.", 75, "Same As Alpha- 70 (75)"}, {"90 est.", 100, "Same As Alpha- 90 (100)"},
+        {"75", 75, "Same As Alpha- 75"},
+    };
+    // clang-format on
+    for (const auto& k : cases) {
+        Calculator c;
+        CompareClicked(c);
+        Extrapolate(c, 1, "0");
+        const int row = RowOf(c.main.PowerLevel[1], k.alphaRow);
+        ASSERT_GE(row, 0) << k.alphaRow;
+        c.main.PowerLevel[1].click(row);
+        EXPECT_EQ(c.main.PowerLevel[2].index(), 0) << k.alphaRow;
+        EXPECT_EQ(GetPowerLevel(c, 2, true), k.omegaPower) << k.alphaRow;
+        EXPECT_EQ(c.main.PowerLevel[2].row(0), k.sameAsRow) << k.alphaRow;
+    }
+}
+
+TEST(PowerModel, BonusDisplay) {
+    // clang-format off
+    struct Case { const char* name; int setting; /* row of the tested list */ const char* skills[5]; int warpCore, captain; const char *bonus, *tooltip, *label; } cases[] = {
+        {"nothing", 3, {"", "", "", "", ""}, 0, 0, "0", "Ship Power Bonus: 0", "Current Power Bonus (100 Weapon Power)"},
+        {"everything at 35", 0, {"9", "9", "9", "2", "3"}, 1, 1, "27.95", "Ship Power Bonus: 0, Warp Core Training: 3.6,  Warp Theorist: 2,  Weapon Efficiency: 6.93,  Efficient Captain: 1.33,  Efficient Bridge Officers (2): 1.33,  Weapon Performance: 9.75,  Equipment Bonus: 3", "Current Power Bonus (35 Weapon Power)"},
+        {"above 75", 3, {"9", "9", "9", "", "3"}, 0, 2, "12.75", "Ship Power Bonus: 0, Warp Core Training: 0,  Weapon Efficiency: 0,  Joined Symbiote: 0,  Weapon Performance: 9.75,  Equipment Bonus: 3", "Current Power Bonus (100 Weapon Power)"},
+        {"not numbers", 1, {"N/A", "x", "", "", "-2"}, 0, 0, "-2", "Ship Power Bonus: 0", "Current Power Bonus (50 Weapon Power)"},
+    };
+    // clang-format on
+    for (const auto& k : cases) {
+        Calculator c;
+        VesselSettings& a = c.Alpha();
+        c.main.PowerLevel[1].click(k.setting);
+        for (int i = 1; i <= 5; ++i)
+            a.PowerSkill[i].setText(k.skills[i - 1]);
+        a.WarpCore.setValue(k.warpCore);
+        a.PowerCaptain.setIndex(k.captain);
+        c.state.ShipPowerBonus[1] = 0;
+        ModifiedPower(c, 1);
+        EXPECT_EQ(a.PowerBonus.caption(), k.bonus) << k.name;
+        EXPECT_EQ(a.PowerBonus.tooltip(), k.tooltip) << k.name;
+        EXPECT_EQ(a.PowerBonusLabel.caption(), k.label) << k.name;
+    }
+    // The low-setting skills act only below 75: (52 / 300 + 18 / 200) x 40.
+    Calculator c;
+    c.Alpha().ExtrapolatePower.setValue(1);
+    c.Alpha().PowerSkill[1].setText("9");
+    c.Alpha().PowerSkill[2].setText("9");
+    c.state.ShipPowerBonus[1] = 0;
+    EXPECT_EQ(PowerBonusAt(c, 1, 75) + PowerBonusAt(c, 1, 100), 0.0f);
+    EXPECT_FLOAT_EQ(PowerBonusAt(c, 1, 35), static_cast<float>((52.0 / 300 + 18.0 / 200) * 40));
+}
+
 } // namespace
 } // namespace vantorel
