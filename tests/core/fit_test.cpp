@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace vantorel {
 namespace {
 
@@ -43,24 +45,15 @@ TEST(Fit, SizesBarsAndPage) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         const FitResult r = Fit(c.in);
-        EXPECT_FALSE(r.minimised);
-        EXPECT_EQ(r.followers, Followers::Normal);
-        EXPECT_EQ(r.state, N);
-        EXPECT_EQ(r.width, c.width);
-        EXPECT_EQ(r.height, c.height);
-        EXPECT_EQ(r.innerWidth, c.width - kFrameWidth);
-        EXPECT_EQ(r.innerHeight, c.height - kFrameHeight);
-        EXPECT_EQ(r.contentsWidth, c.in.comparing ? 13995 : 9825);
-        EXPECT_EQ(r.hBar.visible, c.hBar);
-        EXPECT_EQ(r.vBar.visible, c.vBar);
-        EXPECT_EQ(r.hBar.maximum, c.hMax);
-        EXPECT_EQ(r.hBar.smallStep, c.hSmall);
-        EXPECT_EQ(r.hBar.largeStep, c.hLarge);
-        EXPECT_EQ(r.vBar.maximum, c.vMax);
-        EXPECT_EQ(r.vBar.smallStep, c.vSmall);
-        EXPECT_EQ(r.vBar.largeStep, c.vLarge);
-        EXPECT_EQ(r.contentsToLeft, c.toLeft);
-        EXPECT_EQ(r.contentsToTop, c.toTop);
+        EXPECT_EQ(std::tuple(r.minimised, r.followers == Followers::Normal, r.state == N, r.contentsWidth),
+                  std::tuple(false, true, true, c.in.comparing ? 13995 : 9825));
+        EXPECT_EQ(std::tuple(r.width, r.height, r.innerWidth, r.innerHeight),
+                  std::tuple(c.width, c.height, c.width - kFrameWidth, c.height - kFrameHeight));
+        EXPECT_EQ(std::tuple(r.hBar.visible, r.hBar.maximum, r.hBar.smallStep, r.hBar.largeStep),
+                  std::tuple(c.hBar, c.hMax, c.hSmall, c.hLarge));
+        EXPECT_EQ(std::tuple(r.vBar.visible, r.vBar.maximum, r.vBar.smallStep, r.vBar.largeStep),
+                  std::tuple(c.vBar, c.vMax, c.vSmall, c.vLarge));
+        EXPECT_EQ(std::tuple(r.contentsToLeft, r.contentsToTop), std::tuple(c.toLeft, c.toTop));
     }
 }
 
