@@ -8,15 +8,15 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <sstream>
 #include <string>
+#include <sys/wait.h>
+#include <tuple>
+#include <unistd.h>
 
 namespace vantorel {
 namespace {
@@ -89,8 +89,7 @@ TEST_F(Binary, ExitsWithTwoAndPrintsNothingOnAFailure) {
     // clang-format on
     for (const Case& c : cases) {
         const Outcome o = run(c.args, c.input);
-        EXPECT_EQ(o.status, 2) << c.name;
-        EXPECT_EQ(o.out, "") << c.name;
+        EXPECT_EQ(std::tuple(o.status, o.out), std::tuple(2, "")) << c.name;
         EXPECT_NE(o.err.find(c.says), std::string::npos) << c.name << ": " << o.err;
     }
 }

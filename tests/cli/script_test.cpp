@@ -10,6 +10,7 @@
 #include <functional>
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace vantorel {
@@ -75,12 +76,9 @@ TEST(Script, EachVerbRaisesTheEventsOfItsControl) {
     EXPECT_EQ(port, 2) << "select clicks a row even when it is selected";
     EXPECT_EQ(c.main.Simplified.value(), 1);
     EXPECT_EQ(box, 3) << "a box already at the value is not clicked";
-    EXPECT_EQ(c.main.PowerLevel[1].text(), "87");
-    EXPECT_EQ(c.main.PowerLevel[1].index(), -1);
+    EXPECT_EQ(std::tuple(c.main.PowerLevel[1].text(), c.main.PowerLevel[1].index()), std::tuple("87", -1));
     EXPECT_EQ(power, 0) << "typing into a list raises no event";
-    EXPECT_EQ(c.skills[1].Targets.text(), "3");
-    EXPECT_EQ(targets, 1);
-    EXPECT_EQ(reset, 2);
+    EXPECT_EQ(std::tuple(c.skills[1].Targets.text(), targets, reset), std::tuple("3", 1, 2));
 }
 
 TEST(Script, SetAssignsAsTheProgramDoesEvenOnHiddenControls) {
@@ -159,9 +157,7 @@ TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
         Calculator c;
         if (k.setup) k.setup(c);
         const Result r = RunOn(c, k.script);
-        EXPECT_EQ(r.status, 2) << k.name;
-        EXPECT_EQ(r.err, std::string(k.expected) + "\n") << k.name;
-        EXPECT_EQ(r.out, "") << k.name;
+        EXPECT_EQ(std::tuple(r.status, r.err, r.out), std::tuple(2, std::string(k.expected) + "\n", "")) << k.name;
     }
 }
 
@@ -188,8 +184,7 @@ TEST(Script, EachPrintWritesOneObjectOfTheMatchingNamesInRecordOrder) {
     ASSERT_EQ(objects.size(), 4u);
     EXPECT_EQ(Keys(objects[0]), (Names{"Form1.Forward[1]", "Form1.Forward[2]", "Form1.Forward[3]", "Form1.Forward[4]",
                                        "Form1.ForwardWeaponlabel"}));
-    EXPECT_EQ(Keys(objects[1]).size(), 8u);
-    EXPECT_EQ(Keys(objects[1]).back(), "State.ArcDPS[7,2]");
+    EXPECT_EQ(std::tuple(Keys(objects[1]).size(), Keys(objects[1]).back()), std::tuple(8u, "State.ArcDPS[7,2]"));
     EXPECT_EQ(Keys(objects[2]), (Names{"State.ArcDPS[0,1]"}));
     EXPECT_EQ(Keys(objects[3]), (Names{"Form1.Note"}));
 }

@@ -47,8 +47,7 @@ TEST(WeaponCounting, PortTextsToSlots) {
             alpha += static_cast<char>('0' + c.state.WeaponCount[slot][1]);
             omega += static_cast<char>('0' + c.state.WeaponCount[slot][2]);
         }
-        EXPECT_EQ(alpha, k.counts) << k.name;
-        EXPECT_EQ(omega, "00000000000") << k.name;
+        EXPECT_EQ(std::tuple(alpha, omega), std::tuple(k.counts, "00000000000")) << k.name;
     }
 }
 
@@ -60,8 +59,7 @@ TEST(WeaponCounting, OldNamesAndOmegaPorts) {
     c.main.CForward[2].setText("Beam Array");
     c.main.CRear[1].setText("Turret");
     CountWeapons(c);
-    EXPECT_EQ(c.state.WeaponCount[5][1], 1);
-    EXPECT_EQ(c.state.WeaponCount[5][2], 1);
+    EXPECT_EQ(std::tuple(c.state.WeaponCount[5][1], c.state.WeaponCount[5][2]), std::tuple(1, 1));
     EXPECT_EQ(c.state.WeaponCount[6][2], 1);
     // A type change without rebuilding the ports leaves the old names uncounted.
     c.Alpha().WeaponType[1].setEnabled(false);
@@ -121,26 +119,22 @@ TEST(FiringArcs, EachBoxShowsItsRow) {
     CalculateFiringArcs(c);
     EXPECT_EQ(c.main.FiringArcDPS[2].caption(), PlainText(CalculateDPS(c, 0, 0, 0, 0, 2, 0, 0, 100, 0, 1, false)));
     EXPECT_EQ(c.main.FiringArcDPS[7].caption(), PlainText(CalculateDPS(c, 0, 0, 0, 0, 3, 0, 0, 100, 0, 1, false)));
-    EXPECT_EQ(c.main.FiringArcDPS[9].caption(), "100");
-    EXPECT_EQ(c.state.ArcDPS[5][1], 100.0f);
+    EXPECT_EQ(std::tuple(c.main.FiringArcDPS[9].caption(), c.state.ArcDPS[5][1]), std::tuple("100", 100.0f));
     // Simplified shows the front, side and rear rows.
     Calculator s;
     s.main.Simplified.setValue(1);
     Fit(s, {"Beam Array", "Dual Cannons"}, {});
     CalculateFiringArcs(s);
     EXPECT_EQ(s.main.FiringArcDPS[2].caption(), PlainText(s.state.ArcDPS[0][1]));
-    EXPECT_EQ(s.main.FiringArcDPS[7].caption(), "100");
-    EXPECT_EQ(s.main.FiringArcDPS[9].caption(), "0");
-    EXPECT_EQ(s.main.FiringArcDPS[2].back(), White);
-    EXPECT_EQ(s.main.FiringArcDPS[9].back(), DarkGrey);
+    EXPECT_EQ(std::tuple(s.main.FiringArcDPS[7].caption(), s.main.FiringArcDPS[9].caption()), std::tuple("100", "0"));
+    EXPECT_EQ(std::tuple(s.main.FiringArcDPS[2].back(), s.main.FiringArcDPS[9].back()), std::tuple(White, DarkGrey));
 }
 
 TEST(FiringArcs, EightWeaponsWithDualCannons) {
     Calculator c;
     Fit(c, {"Dual Cannons", "Dual Cannons", "Beam Array", "Beam Array"}, {"Turret", "Turret", "Turret", "Turret"});
     CalculateFiringArcs(c);
-    EXPECT_EQ(c.state.ArcDPS[0][1], -1.0f);
-    EXPECT_EQ(c.main.FiringArcDPS[0].caption(), "-1");
+    EXPECT_EQ(std::tuple(c.state.ArcDPS[0][1], c.main.FiringArcDPS[0].caption()), std::tuple(-1.0f, "-1"));
     for (int row = 1; row <= 5; ++row)
         EXPECT_GT(c.state.ArcDPS[row][1], 0.0f) << row;
 }
@@ -197,10 +191,8 @@ TEST(FiringArcs, ComparisonShowsEachSidesOwnValues) {
     CalculateFiringArcs(c);
     for (int i : {0, 4})
         EXPECT_TRUE(c.main.FiringArcDPS[i].visible() && c.main.CFiringArcDPS[i].visible()) << i;
-    EXPECT_EQ(c.state.ArcDPS[4][1], 0.0f);
-    EXPECT_EQ(c.main.CFiringArcDPS[4].caption(), "100");
-    EXPECT_EQ(c.main.FiringArcDPS[4].caption(), "0");
-    EXPECT_EQ(c.main.FiringArcDPS[4].back(), DarkGrey);
+    EXPECT_EQ(std::tuple(c.state.ArcDPS[4][1], c.main.CFiringArcDPS[4].caption()), std::tuple(0.0f, "100"));
+    EXPECT_EQ(std::tuple(c.main.FiringArcDPS[4].caption(), c.main.FiringArcDPS[4].back()), std::tuple("0", DarkGrey));
     EXPECT_EQ(c.main.CFiringArcDPS[4].back(), Green);
     // One dual cannon against one beam array: 138.56 to 100.
     EXPECT_EQ(c.main.FiringArcDPS[0].back(), MediumGreen);
@@ -250,16 +242,13 @@ TEST(ShipImage, EveryRowOfTheShipTableNamesItsPicture) {
             const std::string name = word.substr(4), id = k.shipClass + word.substr(0, 3).insert(0, "/");
             ShowLast(c);
             DrawShip(c, k.shipClass, tier, row, k.shipClass, tier, row);
-            EXPECT_EQ(c.main.AlphaImage.image(), name) << id;
-            EXPECT_EQ(c.main.OmegaImage.image(), name) << id;
-            EXPECT_EQ(c.main.ShipImageId[1], id);
-            EXPECT_EQ(c.main.ShipImageId[2], id);
+            EXPECT_EQ(std::tuple(c.main.AlphaImage.image(), c.main.OmegaImage.image()), std::tuple(name, name)) << id;
+            EXPECT_EQ(std::tuple(c.main.ShipImageId[1], c.main.ShipImageId[2]), std::tuple(id, id));
         }
     }
     ShowLast(c);
     DrawShip(c, "Unrestricted", 3, 2, "Unrestricted", 3, 2);
-    EXPECT_EQ(c.main.AlphaImage.image(), "unrestricted");
-    EXPECT_EQ(c.main.ShipImageId[1], "Unrestricted");
+    EXPECT_EQ(std::tuple(c.main.AlphaImage.image(), c.main.ShipImageId[1]), std::tuple("unrestricted", "Unrestricted"));
     // An unknown class shows the unrestricted ship on Alpha only.
     for (const char* shipClass : {"", "Starbase", "Cruiser ", "cruiser"}) {
         ShowLast(c);
@@ -324,8 +313,7 @@ TEST(ShipImage, OmegaWithoutATierRowKeepsItsLastPicture) {
     DrawShip(c, "Cruiser", 5, 0, "Escort", 2, 0);
     ASSERT_EQ(c.main.OmegaImage.image(), "esc2");
     DrawShip(c, "Cruiser", 5, 0, "Escort", 1, 0);
-    EXPECT_EQ(c.main.AlphaImage.image(), "cru5");
-    EXPECT_EQ(c.main.OmegaImage.image(), "esc2");
+    EXPECT_EQ(std::tuple(c.main.AlphaImage.image(), c.main.OmegaImage.image()), std::tuple("cru5", "esc2"));
     EXPECT_EQ(c.main.ShipImageId[2], "Escort/1/0");
 }
 
@@ -348,8 +336,7 @@ TEST(ShipImage, ClineFollowsTheIdsAndTheWidestForwardArc) {
         c.state.ArcShown[1] = k.arc1;
         c.main.Cline.setVisible(!k.visible);
         DecideCline(c);
-        EXPECT_EQ(c.main.Cline.visible(), k.visible) << k.name;
-        EXPECT_EQ(c.main.Cline.y1(), k.y1) << k.name;
+        EXPECT_EQ(std::tuple(c.main.Cline.visible(), c.main.Cline.y1()), std::tuple(k.visible, k.y1)) << k.name;
         EXPECT_EQ(c.main.Cline.y2(), 7890) << k.name;
     }
     // Two ships with one picture still show the line; one ship hides it.
@@ -359,8 +346,7 @@ TEST(ShipImage, ClineFollowsTheIdsAndTheWidestForwardArc) {
     DecideCline(c);
     EXPECT_TRUE(c.main.Cline.visible());
     DrawShip(c, "Cruiser", 4, 0, "", 0, 0);
-    EXPECT_EQ(c.main.AlphaImage.image(), "cru4");
-    EXPECT_EQ(c.main.OmegaImage.image(), "");
+    EXPECT_EQ(std::tuple(c.main.AlphaImage.image(), c.main.OmegaImage.image()), std::tuple("cru4", ""));
     EXPECT_EQ(c.main.ShipImageId[2], "");
     DecideCline(c);
     EXPECT_FALSE(c.main.Cline.visible());

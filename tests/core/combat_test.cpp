@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace vantorel {
 namespace {
 
@@ -67,12 +69,9 @@ TEST(Combat, ExcessAccuracyFeedsTheCriticalTexts) {
     // Switching accuracy off drops the excess and recomputes the criticals.
     c.Alpha().Accuracy.setValue(0);
     ModifiedAccuracy(c, 1);
-    EXPECT_EQ(c.Alpha().HitRate.caption(), "100%");
-    EXPECT_EQ(c.Alpha().HitRate.tooltip(), "");
-    EXPECT_EQ(c.state.ExcessAccuracy[1], 0.0f);
-    EXPECT_EQ(c.state.AccuracyFactor[1], 1.0f);
-    EXPECT_EQ(c.Alpha().CritH.caption(), "4.5%");
-    EXPECT_EQ(c.Alpha().CritD.caption(), "50%");
+    EXPECT_EQ(std::tuple(c.Alpha().HitRate.caption(), c.Alpha().HitRate.tooltip()), std::tuple("100%", ""));
+    EXPECT_EQ(std::tuple(c.state.ExcessAccuracy[1], c.state.AccuracyFactor[1]), std::tuple(0.0f, 1.0f));
+    EXPECT_EQ(std::tuple(c.Alpha().CritH.caption(), c.Alpha().CritD.caption()), std::tuple("4.5%", "50%"));
 }
 
 TEST(Combat, CriticalBoxes) {
@@ -100,8 +99,7 @@ TEST(Combat, CriticalBoxes) {
         }
         ModifiedCritical(c, k.vessel);
         const VesselSettings& s = c.settings[k.vessel];
-        EXPECT_EQ(s.CritH.caption(), k.critH) << k.name;
-        EXPECT_EQ(s.CritD.caption(), k.critD) << k.name;
+        EXPECT_EQ(std::tuple(s.CritH.caption(), s.CritD.caption()), std::tuple(k.critH, k.critD)) << k.name;
         if (k.chanceTip) { EXPECT_EQ(s.CritH.tooltip(), k.chanceTip) << k.name; }
         if (k.severityTip) { EXPECT_EQ(s.CritD.tooltip(), k.severityTip) << k.name; }
     }
@@ -213,8 +211,7 @@ TEST(Chains, RelativeDPSIsOneSettingForBothVessels) {
     c.Omega().RelativeDPS.setValue(1);
     EXPECT_EQ(c.Alpha().RelativeDPS.value(), 1);
     EXPECT_FALSE(c.Alpha().WeaponMark.enabled());
-    EXPECT_EQ(c.Alpha().CalculatedWeaponDPS[4].caption(), "");
-    EXPECT_EQ(c.state.BeamModifier[1], 1.0f);
+    EXPECT_EQ(std::tuple(c.Alpha().CalculatedWeaponDPS[4].caption(), c.state.BeamModifier[1]), std::tuple("", 1.0f));
 }
 
 TEST(Chains, SettingsBoxes) {
@@ -271,10 +268,8 @@ TEST(Modifiers, BareReferenceWeapon) {
     Calculator c;
     PlainCustom(c);
     const VesselSettings& a = c.Alpha();
-    EXPECT_EQ(c.state.CannonModifier[1], 1.4223658f);
-    EXPECT_EQ(c.state.BeamModifier[1], 1.4223658f);
-    EXPECT_EQ(c.state.TorpedoDamage[1], 1503.0f);
-    EXPECT_EQ(c.state.MineDamage[1], 1878.75f);
+    EXPECT_EQ(std::tuple(c.state.CannonModifier[1], c.state.BeamModifier[1]), std::tuple(1.4223658f, 1.4223658f));
+    EXPECT_EQ(std::tuple(c.state.TorpedoDamage[1], c.state.MineDamage[1]), std::tuple(1503.0f, 1878.75f));
     EXPECT_EQ(a.DisplayedDPSLabel[1].caption(), "Displayed DPS (100 Weapon Power)");
     const char* captions[8] = {"", "232", "208", "192", "160", "120", "1503", "1879"};
     for (int i = 1; i <= 7; ++i)
@@ -338,14 +333,12 @@ TEST(Modifiers, OmegaAndRelativeMode) {
     // Relative mode and a hidden Omega are left alone.
     Calculator r;
     ModifiedDPS(r, 1);
-    EXPECT_EQ(r.state.BeamModifier[1], 1.0f);
-    EXPECT_EQ(r.Alpha().CalculatedWeaponDPS[4].caption(), "");
+    EXPECT_EQ(std::tuple(r.state.BeamModifier[1], r.Alpha().CalculatedWeaponDPS[4].caption()), std::tuple(1.0f, ""));
     Calculator h;
     PlainCustom(h);
     h.state.CannonModifier[2] = 0.5f;
     ModifiedDPS(h, 2);
-    EXPECT_EQ(h.state.CannonModifier[2], 0.5f);
-    EXPECT_EQ(h.Omega().CalculatedWeaponDPS[4].caption(), "");
+    EXPECT_EQ(std::tuple(h.state.CannonModifier[2], h.Omega().CalculatedWeaponDPS[4].caption()), std::tuple(0.5f, ""));
 }
 
 TEST(Modifiers, WeaponSkillBonus) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace vantorel {
 namespace {
 
@@ -41,8 +43,7 @@ TEST(Shuttles, RankRows) {
         Calculator c;
         Shuttle(c, k.faction, k.rankRow);
         const List& rank = c.main.ShuttleRank[1];
-        EXPECT_EQ(rank.rows(), k.rows) << k.name;
-        EXPECT_EQ(rank.index(), 0) << k.name;
+        EXPECT_EQ(std::tuple(rank.rows(), rank.index()), std::tuple(k.rows, 0)) << k.name;
         EXPECT_EQ(rank.visible() && rank.enabled() && c.main.ShuttleRankLabel[1].visible(), k.listShown) << k.name;
         EXPECT_TRUE(c.main.ShuttleMod[1].visible()) << k.name;
     }
@@ -195,8 +196,7 @@ TEST(MainWindowEvents, OmegaControlsRestWhileOmegaIsHidden) {
         c.main.Forward[1].setText("Beam Array");
         act(c);
         // Nothing recalculated: Alpha's array has not been counted.
-        EXPECT_EQ(c.state.WeaponCount[5][1], 0);
-        EXPECT_EQ(c.state.ArcDPS[4][1], 0.0f);
+        EXPECT_EQ(std::tuple(c.state.WeaponCount[5][1], c.state.ArcDPS[4][1]), std::tuple(0, 0.0f));
     }
 }
 
@@ -208,8 +208,7 @@ TEST(MainWindowEvents, PortsDistanceAndPowerRecalculate) {
     EXPECT_EQ(c.state.WeaponCount[5][1], 0) << "a disabled port does nothing";
     c.main.Forward[3].setText("Empty");
     c.main.Forward[2].click(RowOf(c.main.Forward[2], "Beam Array"));
-    EXPECT_EQ(c.state.WeaponCount[5][1], 1);
-    EXPECT_EQ(c.state.ArcDPS[4][1], 100.0f);
+    EXPECT_EQ(std::tuple(c.state.WeaponCount[5][1], c.state.ArcDPS[4][1]), std::tuple(1, 100.0f));
     EXPECT_TRUE(c.main.FiringArcDPS[4].visible());
     EXPECT_EQ(c.main.FiringArcDPS[4].caption(), "100");
     c.main.TargetDistance[1].click(1);
@@ -260,8 +259,7 @@ TEST(StartUp, FreshCalculator) {
         EXPECT_EQ(c.state.ArcDPS[row][1] + c.state.ArcDPS[row][2], 0.0f) << row;
     for (int i = 0; i <= 13; ++i)
         EXPECT_FALSE(c.main.FiringArcDPS[i].visible() || c.main.CFiringArcDPS[i].visible()) << i;
-    EXPECT_EQ(GetPowerLevel(c, 1, false), 100);
-    EXPECT_EQ(GetPowerLevel(c, 1, true), 100);
+    EXPECT_EQ(std::tuple(GetPowerLevel(c, 1, false), GetPowerLevel(c, 1, true)), std::tuple(100, 100));
     EXPECT_EQ(c.main.PowerLevel[1].rows(), (Rows{"35", "50", "75", "100", "125"}));
     EXPECT_EQ(c.main.PowerLevel[1].text(), "100");
     EXPECT_TRUE(c.main.PowerLevel[1].enabled());
@@ -273,8 +271,7 @@ TEST(StartUp, FreshCalculator) {
     // A hidden Omega reads no power of its own.
     for (int i = 0; i < c.main.PowerLevel[2].count(); ++i) {
         c.main.PowerLevel[2].setIndex(i);
-        EXPECT_EQ(GetPowerLevel(c, 2, false), 35) << i;
-        EXPECT_EQ(GetPowerLevel(c, 2, true), 35) << i;
+        EXPECT_EQ(std::tuple(GetPowerLevel(c, 2, false), GetPowerLevel(c, 2, true)), std::tuple(35, 35)) << i;
     }
 }
 
@@ -317,8 +314,7 @@ TEST(Comparison, HideCompareResetsOmega) {
     EXPECT_EQ(c.state.Comparing, 0);
     EXPECT_FALSE(c.Omega().Form.visible());
     EXPECT_EQ(c.Omega().SameAsAlpha.value() + c.skills[2].SameAsAlpha.value(), 2);
-    EXPECT_EQ(m.Advanced[2].caption(), "Show Settings");
-    EXPECT_EQ(m.Form1.width(), 9950);
+    EXPECT_EQ(std::tuple(m.Advanced[2].caption(), m.Form1.width()), std::tuple("Show Settings", 9950));
     EXPECT_FALSE(m.Primarylabel.visible() || m.HideCompare.visible() || m.Cline.visible());
     EXPECT_TRUE(m.Compare.visible());
     for (Control* ctl : OmegaColumn(m))
@@ -329,8 +325,7 @@ TEST(Comparison, HideCompareResetsOmega) {
         EXPECT_FALSE(m.CFiringArcDPS[i].visible() || m.CFiringArcLabel[i].visible()) << i;
         if (i > 11) continue;
         EXPECT_FALSE(m.CFiringArc[i].visible()) << i;
-        EXPECT_EQ(m.FiringArcDPS[i].back(), White) << i;
-        EXPECT_EQ(m.CFiringArcDPS[i].back(), White) << i;
+        EXPECT_EQ(std::tuple(m.FiringArcDPS[i].back(), m.CFiringArcDPS[i].back()), std::tuple(White, White)) << i;
     }
     for (int i = 1; i <= 4; ++i) {
         EXPECT_EQ(m.CForward[i].text(), "Forward Weapon Port " + std::to_string(i));
@@ -342,8 +337,7 @@ TEST(Comparison, HideCompareResetsOmega) {
         EXPECT_EQ(c.state.ArcDPS[row][2], 0.0f) << row;
     EXPECT_EQ(c.state.ArcDPS[6][2], 50.0f);
     // Alpha is calculated alone again, and a hidden Omega counts nothing.
-    EXPECT_EQ(c.state.WeaponCount[2][2], 0);
-    EXPECT_EQ(c.state.ArcDPS[4][1], 100.0f);
+    EXPECT_EQ(std::tuple(c.state.WeaponCount[2][2], c.state.ArcDPS[4][1]), std::tuple(0, 100.0f));
     EXPECT_FALSE(m.FiringArcDPS[0].visible());
 }
 
@@ -409,8 +403,7 @@ TEST(PowerModel, ExtrapolatedRows) {
     // The extrapolated power is the actual power.
     Calculator c;
     Extrapolate(c, 1, "15");
-    EXPECT_EQ(c.main.PowerLevel[1].text(), "100 (115) est.");
-    EXPECT_EQ(GetPowerLevel(c, 1, false), 100);
+    EXPECT_EQ(std::tuple(c.main.PowerLevel[1].text(), GetPowerLevel(c, 1, false)), std::tuple("100 (115) est.", 100));
     EXPECT_EQ(GetPowerLevel(c, 1, true), 115);
     EXPECT_FLOAT_EQ(PowerBonusAt(c, 1, 100), 15.0f);
     c.settings[1].ExtrapolatePower.setValue(0);
@@ -482,8 +475,7 @@ TEST(PowerModel, BonusDisplay) {
         a.PowerCaptain.setIndex(k.captain);
         c.state.ShipPowerBonus[1] = 0;
         ModifiedPower(c, 1);
-        EXPECT_EQ(a.PowerBonus.caption(), k.bonus) << k.name;
-        EXPECT_EQ(a.PowerBonus.tooltip(), k.tooltip) << k.name;
+        EXPECT_EQ(std::tuple(a.PowerBonus.caption(), a.PowerBonus.tooltip()), std::tuple(k.bonus, k.tooltip)) << k.name;
         EXPECT_EQ(a.PowerBonusLabel.caption(), k.label) << k.name;
     }
     // The low-setting skills act only below 75: (52 / 300 + 18 / 200) x 40.

@@ -61,18 +61,13 @@ TEST(Fit, SizesBarsAndPage) {
 // to the vertical one; a minimised window takes its followers and keeps its size.
 TEST(Fit, BarsAndMinimising) {
     const FitResult both = Fit(In(false, WindowState::Normal, 8000, 7000, kLarge, true));
-    EXPECT_EQ(both.hBar.top, 6595 - 240);
-    EXPECT_EQ(both.hBar.width, 7880 - 240);
-    EXPECT_EQ(both.vBar.left, 7880 - 240);
-    EXPECT_EQ(both.vBar.height, 6595);
+    EXPECT_EQ(std::tuple(both.hBar.top, both.hBar.width), std::tuple(6595 - 240, 7880 - 240));
+    EXPECT_EQ(std::tuple(both.vBar.left, both.vBar.height), std::tuple(7880 - 240, 6595));
     const FitResult one = Fit(In(false, WindowState::Normal, 9950, 9765, {0, 0, 9000, 15600}, false));
-    EXPECT_EQ(one.hBar.top, 9600 - 240);
-    EXPECT_EQ(one.hBar.width, 8880);
+    EXPECT_EQ(std::tuple(one.hBar.top, one.hBar.width), std::tuple(9600 - 240, 8880));
     const FitResult r = Fit(In(true, WindowState::Minimised, 5000, 3000, kLarge, true));
     EXPECT_TRUE(r.minimised);
-    EXPECT_EQ(r.followers, Followers::Minimised);
-    EXPECT_EQ(r.width, 5000);
-    EXPECT_EQ(r.height, 3000);
+    EXPECT_EQ(std::tuple(r.followers, r.width, r.height), std::tuple(Followers::Minimised, 5000, 3000));
 }
 
 TEST(PlaceAtStart, LeavesRoomForTheOtherWindows) {
@@ -92,9 +87,7 @@ TEST(PlaceAtStart, LeavesRoomForTheOtherWindows) {
     // clang-format on
     for (const Case& c : cases) {
         const StartPlace p = PlaceAtStart(c.work, kGraphWindowWidth);
-        EXPECT_EQ(p.left, c.left) << c.name;
-        EXPECT_EQ(p.top, c.top) << c.name;
-        EXPECT_EQ(p.alphaWidth, c.alphaWidth) << c.name;
+        EXPECT_EQ(std::tuple(p.left, p.top, p.alphaWidth), std::tuple(c.left, c.top, c.alphaWidth)) << c.name;
     }
 }
 
@@ -114,8 +107,7 @@ TEST(FitWindow, ThePageStaysReachable) {
     c.main.Form1.setWidth(12000);
     FitWindow(c);
     EXPECT_FALSE(c.main.HScroll1.visible());
-    EXPECT_EQ(c.main.Contents.left(), 0);
-    EXPECT_EQ(c.main.Form1.width(), 9950);
+    EXPECT_EQ(std::tuple(c.main.Contents.left(), c.main.Form1.width()), std::tuple(0, 9950));
     EXPECT_EQ(c.main.Form1.innerWidth(), 9950 - kFrameWidth);
 
     Calculator d;
@@ -140,8 +132,7 @@ TEST(FitWindow, MinimiseAndRestoreTakeTheSettingsWindows) {
     for (WindowState s : {WindowState::Minimised, WindowState::Normal}) {
         c.main.Form1.setState(s);
         FitWindow(c);
-        EXPECT_EQ(c.settings[1].Form.state(), s);
-        EXPECT_EQ(c.settings[2].Form.state(), s);
+        EXPECT_EQ(std::tuple(c.settings[1].Form.state(), c.settings[2].Form.state()), std::tuple(s, s));
     }
 }
 

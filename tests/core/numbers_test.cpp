@@ -6,6 +6,7 @@
 #include <charconv>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace vantorel {
@@ -22,11 +23,8 @@ TEST(Numbers, RoundsHalfToEvenKeepingTheType) {
     // The single nearest 2.675 lies just below the half, so it rounds down.
     EXPECT_EQ(Round(2.675f, 2), 2.67f);
     static_assert(std::is_same_v<decltype(Round(1.0f, 1)), float>);
-    EXPECT_EQ(Round(100.0004f, 3), 100.0f);
-    EXPECT_EQ(WholeNumberOf("2.5"), 2);
-    EXPECT_EQ(WholeNumberOf("3.5"), 4);
-    EXPECT_EQ(WholeNumberOf(" 9 "), 9);
-    EXPECT_EQ(WholeNumberOf("x", 1), 1);
+    EXPECT_EQ(std::tuple(Round(100.0004f, 3), WholeNumberOf("2.5"), WholeNumberOf("3.5")), std::tuple(100.0f, 2, 4));
+    EXPECT_EQ(std::tuple(WholeNumberOf(" 9 "), WholeNumberOf("x", 1)), std::tuple(9, 1));
 }
 
 TEST(Numbers, NumericText) {
@@ -120,8 +118,7 @@ TEST(Fields, WhenAListRaisesItsEvent) {
     port.setText("Forward Weapon Port 1");
     EXPECT_EQ(port.index(), -1);
     port.setText("Beam Array");
-    EXPECT_EQ(port.index(), 1);
-    EXPECT_EQ(runs, 2);
+    EXPECT_EQ(std::tuple(port.index(), runs), std::tuple(1, 2));
 }
 
 TEST(Fields, ListRowsAndSelectionStayInStep) {
@@ -139,8 +136,7 @@ TEST(Fields, ListRowsAndSelectionStayInStep) {
         List list({"a", "b", "c"});
         list.setIndex(1);
         c.edit(list);
-        EXPECT_EQ(list.index(), c.index) << c.name;
-        EXPECT_EQ(list.text(), c.text) << c.name;
+        EXPECT_EQ(std::tuple(list.index(), list.text()), std::tuple(c.index, c.text)) << c.name;
     }
 }
 
@@ -156,8 +152,7 @@ TEST(Fields, ViewsAndIndexBases) {
     Indexed<int, 1, 4> ports{};
     ports[1] = 10;
     ports[4] = 40;
-    EXPECT_EQ(ports.items.front(), 10);
-    EXPECT_EQ(ports.items.back(), 40);
+    EXPECT_EQ(std::tuple(ports.items.front(), ports.items.back()), std::tuple(10, 40));
     EXPECT_THROW(ports[0], std::out_of_range);
     EXPECT_THROW(ports[5], std::out_of_range);
 }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace vantorel {
 namespace {
 
@@ -223,9 +225,7 @@ TEST(WeaponType, TypeSkillBoxOpensByRank) {
         box.setHandler({});
         box.setText(k.before);
         ChooseType(c, 1, k.k, k.index);
-        EXPECT_EQ(box.text(), k.text);
-        EXPECT_EQ(box.enabled(), k.enabled);
-        EXPECT_EQ(box.back(), k.back);
+        EXPECT_EQ(std::tuple(box.text(), box.enabled(), box.back()), std::tuple(k.text, k.enabled, k.back));
         // A mirrored Omega's box is a copy the type handler leaves alone.
         EXPECT_EQ(c.Omega().WeaponSkill[k.k == 1 ? 4 : 8].text(), "");
     }
@@ -242,8 +242,7 @@ TEST(WeaponType, ConsoleOnTheRewrittenRowKeepsItsPlace) {
         Quietly(a.TacticalConsoleRarity[2], 1);
         ChooseType(c, 1, 2, 4);
         EXPECT_EQ(a.TacticalConsole[2].text(), "Transphasic Compressor (+Transphasic Projectiles)");
-        EXPECT_EQ(a.TacticalConsoleMark[2].index(), 3);
-        EXPECT_EQ(a.TacticalConsoleRarity[2].index(), 1);
+        EXPECT_EQ(std::tuple(a.TacticalConsoleMark[2].index(), a.TacticalConsoleRarity[2].index()), std::tuple(3, 1));
         EXPECT_EQ(a.TacticalConsole[1].enabled(), relative == 0);
         EXPECT_EQ(a.TacticalConsoleRarity[3].enabled(), relative == 0);
         // The mirrored Omega follows, its lists closed.
@@ -257,8 +256,7 @@ TEST(WeaponType, ConsoleOnTheRewrittenRowKeepsItsPlace) {
     ChooseType(c, 1, 1, 0);
     const Rows named = {"Phaser Dual (Heavy) Cannons", "Dual Phaser Beam Bank", "Phaser Cannon", "Phaser Beam Array",
                         "Phaser Turret", "Quantum Torpedo Launcher", "Quantum Mine Launcher"};
-    EXPECT_EQ(Captions(c.Alpha()), named);
-    EXPECT_EQ(Captions(c.Omega()), named);
+    EXPECT_EQ(std::tuple(Captions(c.Alpha()), Captions(c.Omega())), std::tuple(named, named));
 }
 
 TEST(WeaponType, OnlyAnEnabledListRefitsTheShipAndAFreeOmegaKeepsItsType) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <tuple>
 
 namespace vantorel {
 namespace {
@@ -113,9 +114,7 @@ TEST(Ships, PortsAndConsoleSlots) {
         // translation: the same-as row alone.
         Hold(c.main.ShipSubclass[2], {"Same As Alpha"}, "Same As Alpha");
         const Ports ports = ShipPorts(c, k.asked);
-        EXPECT_EQ(ports.forward, k.forward);
-        EXPECT_EQ(ports.rear, k.rear);
-        EXPECT_EQ(ports.list, k.list);
+        EXPECT_EQ(std::tuple(ports.forward, ports.rear, ports.list), std::tuple(k.forward, k.rear, k.list));
         EXPECT_EQ(ConsoleSlots(c, k.asked), k.slots);
     }
 }
@@ -123,8 +122,7 @@ TEST(Ships, PortsAndConsoleSlots) {
 TEST(Ships, LoreKeepsItsBlanks) {
     EXPECT_EQ(LoreText(1, 0).substr(0, 24), "The Enterprise  (NX-01),");
     EXPECT_EQ(LoreText(1, 1).substr(0, 23), "The U.S.S Enterprise (N");
-    EXPECT_EQ(LoreText(2, 0).back(), ' ');
-    EXPECT_EQ(LoreText(2, 0), LoreText(2, 5));
+    EXPECT_EQ(std::tuple(LoreText(2, 0).back(), LoreText(2, 0)), std::tuple(' ', LoreText(2, 5)));
     EXPECT_EQ(LoreText(3, 0).substr(LoreText(3, 0).size() - 20), "Khitomer Conference.");
     EXPECT_NE(LoreText(4, 2).find("Voyager"), std::string::npos);
     EXPECT_EQ(LoreText(5, 0).substr(LoreText(5, 0).size() - 11), "existence. ");
@@ -154,9 +152,7 @@ TEST(Factions, RankAndFactionOfBothVessels) {
         Calculator c;
         AlphaCaptain(c, k.alphaFaction, k.alphaRank);
         OmegaCaptain(c, k.omegaSame, k.omegaFaction, k.omegaRank);
-        EXPECT_EQ(GetRank(c, 1), k.rank1);
-        EXPECT_EQ(GetFaction(c, 1), k.faction1);
-        EXPECT_EQ(GetRank(c, 2), k.rank2);
+        EXPECT_EQ(std::tuple(GetRank(c, 1), GetFaction(c, 1), GetRank(c, 2)), std::tuple(k.rank1, k.faction1, k.rank2));
         EXPECT_EQ(GetFaction(c, 2), k.faction2);
         EXPECT_EQ(IsUnrestricted(c, 2) != 0, k.unrestricted2 != 0);
     }
@@ -202,8 +198,7 @@ TEST(Factions, OmegaClassOnItsSameAsRow) {
     // The class text loses its leading blanks only.
     Calculator c;
     Select(c.main.ShipClass[1], "Shuttlecraft ");
-    EXPECT_EQ(c.main.ShipClass[1].text(), "   Shuttlecraft ");
-    EXPECT_EQ(GetClass(c, 1), "Shuttlecraft ");
+    EXPECT_EQ(std::tuple(c.main.ShipClass[1].text(), GetClass(c, 1)), std::tuple("   Shuttlecraft ", "Shuttlecraft "));
     Quietly(c.main.ShipClass[1], -1);
     EXPECT_EQ(GetClass(c, 1), "");
 }
@@ -229,9 +224,7 @@ TEST(Factions, TierFromTheListText) {
         OmegaCaptain(c, 0, 0, k.omegaRank);
         AlphaShip(c, 1, k.alphaClass, k.alphaTier);
         Hold(c.main.ShipTier[2], {"Same As Alpha", k.omegaTier}, k.omegaTier);
-        EXPECT_EQ(GetClass(c, 2), k.alphaClass);
-        EXPECT_EQ(GetTier(c, 1), k.tier1);
-        EXPECT_EQ(GetTier(c, 2), k.tier2);
+        EXPECT_EQ(std::tuple(GetClass(c, 2), GetTier(c, 1), GetTier(c, 2)), std::tuple(k.alphaClass, k.tier1, k.tier2));
     }
 }
 
@@ -250,8 +243,7 @@ TEST(Factions, SubclassRowOfEachVessel) {
         Quietly(c.main.ShipSubclass[1], k.alphaIndex);
         Hold(c.main.ShipSubclass[2], Rows(names.begin(), names.begin() + k.omegaRows), "");
         Quietly(c.main.ShipSubclass[2], k.omegaIndex);
-        EXPECT_EQ(GetSubclass(c, 1), k.subclass1) << k.name;
-        EXPECT_EQ(GetSubclass(c, 2), k.subclass2) << k.name;
+        EXPECT_EQ(std::tuple(GetSubclass(c, 1), GetSubclass(c, 2)), std::tuple(k.subclass1, k.subclass2)) << k.name;
     }
 }
 
@@ -429,8 +421,7 @@ TEST(Cascade, ConsoleLimitOfTheShip) {
             s.TacticalConsoleRarity[i].setBack(Grey);
         }
         MatchConsoleLimit(c, k.v, k.keep);
-        EXPECT_EQ(Equipped(s), k.equipped);
-        EXPECT_EQ(White(s), k.white);
+        EXPECT_EQ(std::tuple(Equipped(s), White(s)), std::tuple(k.equipped, k.white));
         EXPECT_EQ(s.MatchConsoleLimit.caption(), k.limit);
         EXPECT_FALSE(s.TacticalConsoleEquipped[1].enabled());
     }
@@ -439,19 +430,16 @@ TEST(Cascade, ConsoleLimitOfTheShip) {
 TEST(Cascade, ShipChangeMatchesConsolesOnlyInCustomMode) {
     Calculator c;
     ChooseClass(c, 1, "Shuttlecraft");
-    EXPECT_EQ(Equipped(c.Alpha()), "1111");
-    EXPECT_EQ(c.Alpha().MatchConsoleLimit.caption(), "");
+    EXPECT_EQ(std::tuple(Equipped(c.Alpha()), c.Alpha().MatchConsoleLimit.caption()), std::tuple("1111", ""));
     CustomMode(c);
     ChooseClass(c, 1, "Escort");
-    EXPECT_EQ(Equipped(c.Alpha()), "1111");
-    EXPECT_EQ(c.Alpha().MatchConsoleLimit.caption(), "4");
+    EXPECT_EQ(std::tuple(Equipped(c.Alpha()), c.Alpha().MatchConsoleLimit.caption()), std::tuple("1111", "4"));
     ChooseClass(c, 1, "Shuttlecraft");
     EXPECT_EQ(Equipped(c.Alpha()), "0000");
     c.Alpha().MatchConsole.setHandler({});
     c.Alpha().MatchConsole.setValue(0);
     ChooseClass(c, 1, "Escort");
-    EXPECT_EQ(Equipped(c.Alpha()), "0000");
-    EXPECT_EQ(c.Alpha().MatchConsoleLimit.caption(), "4");
+    EXPECT_EQ(std::tuple(Equipped(c.Alpha()), c.Alpha().MatchConsoleLimit.caption()), std::tuple("0000", "4"));
 }
 
 } // namespace
