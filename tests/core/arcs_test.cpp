@@ -384,10 +384,13 @@ TEST(ShipImage, ArcOverlayGeometry) {
     for (const Case& k : cases) {
         SCOPED_TRACE(k.i);
         const ArcGeometry g = FiringArcGeometry(k.i);
-        EXPECT_EQ(std::tuple(g.fromDegrees, g.toDegrees, g.radius, g.bandInner, g.leaderRow, g.wholeCircle, g.sweepCount),
-                  std::tuple(k.from, k.to, k.radius, k.band, k.row, k.i == 5, k.sweeps));
+        EXPECT_EQ(
+            std::tuple(g.fromDegrees, g.toDegrees, g.radius, g.bandInner, g.leaderRow, g.wholeCircle, g.sweepCount),
+            std::tuple(k.from, k.to, k.radius, k.band, k.row, k.i == 5, k.sweeps));
         EXPECT_EQ(std::tuple(g.sweeps[0].from, g.sweeps[0].to), std::tuple(k.sweepFrom, k.sweepTo));
-        if (k.sweeps == 2) { EXPECT_EQ(std::tuple(g.sweeps[1].from, g.sweeps[1].to), std::tuple(-k.sweepTo, -k.sweepFrom)); }
+        if (k.sweeps == 2) {
+            EXPECT_EQ(std::tuple(g.sweeps[1].from, g.sweeps[1].to), std::tuple(-k.sweepTo, -k.sweepFrom));
+        }
         // The leaders end on the outer arc, inside the sector, mirrored.
         const double dx = ArcCentre.x - g.leftAnchor.x, dy = ArcCentre.y - g.leftAnchor.y;
         EXPECT_NEAR(std::hypot(dx, dy), k.radius, 1e-9);

@@ -137,7 +137,8 @@ TEST(Combat, AttackPatternAlphaInTheCriticalBoxes) {
         ModifiedCritical(c, 1);
         EXPECT_EQ(c.Alpha().CritH.caption(), k.critH) << k.level;
         EXPECT_EQ(c.Alpha().CritD.caption(), k.critD) << k.level;
-        EXPECT_EQ(c.Alpha().CritH.tooltip(), std::string("Critical Chance- Base: 2.5%, Attack Vectors: 2%") + k.chancePiece);
+        EXPECT_EQ(c.Alpha().CritH.tooltip(),
+                  std::string("Critical Chance- Base: 2.5%, Attack Vectors: 2%") + k.chancePiece);
         EXPECT_EQ(c.Alpha().CritD.tooltip(),
                   std::string("Critical Severity- Base: 50%, Battle Strategy: 25%") + k.severityPiece);
     }
@@ -403,7 +404,8 @@ TEST(Modifiers, ResetModifierReturnsToOne) {
         const CalculatorState& s = c.state;
         EXPECT_EQ(s.BeamModifier[v] + s.CannonModifier[v] + s.TorpedoDamage[v] + s.MineDamage[v], 4.0f);
         for (int i = 1; i <= 7; ++i)
-            EXPECT_EQ(c.settings[v].CalculatedWeaponDPS[i].caption() + c.settings[v].CalculatedWeaponDPS[i].tooltip(), "");
+            EXPECT_EQ(c.settings[v].CalculatedWeaponDPS[i].caption() + c.settings[v].CalculatedWeaponDPS[i].tooltip(),
+                      "");
         for (int i = 1; i <= 4; ++i)
             EXPECT_EQ(c.settings[v].TacticalConsoleEquipped[i].value(), 1);
     }

@@ -7,8 +7,8 @@
 namespace vantorel {
 namespace {
 
-float Dps(Calculator& c, int dhc, int dc, int dbb, int cannons, int arrays, int turrets, int shuttles,
-          int power = 100, int distance = 0, bool noSkills = false) {
+float Dps(Calculator& c, int dhc, int dc, int dbb, int cannons, int arrays, int turrets, int shuttles, int power = 100,
+          int distance = 0, bool noSkills = false) {
     return CalculateDPS(c, dhc, dc, dbb, cannons, arrays, turrets, shuttles, power, distance, 1, noSkills);
 }
 
@@ -336,9 +336,11 @@ TEST(ToolTips, Texts) {
         k.setUp(c.state);
         const Counts& n = k.counts;
         // With one kind in the row and relative mode, the entry is the box's value.
-        const float box = CalculateDPS(c, n.dhc, n.dc, n.dbb, n.cannons, n.arrays, n.turrets, n.shuttles, 100, 0, 1, false);
+        const float box =
+            CalculateDPS(c, n.dhc, n.dc, n.dbb, n.cannons, n.arrays, n.turrets, n.shuttles, 100, 0, 1, false);
         std::string pattern = std::regex_replace(k.pattern, std::regex("N"), "[0-9]*\\.?[0-9]+");
-        pattern = std::regex_replace(pattern, std::regex("@"), std::regex_replace(SignedText(box), std::regex("\\."), "\\."));
+        pattern =
+            std::regex_replace(pattern, std::regex("@"), std::regex_replace(SignedText(box), std::regex("\\."), "\\."));
         const std::string text = Tip(c, n);
         EXPECT_TRUE(std::regex_match(text, std::regex(pattern))) << k.name << ": " << text;
     }

@@ -17,7 +17,8 @@ TEST(Numbers, RoundsHalfToEvenKeepingTheType) {
         double x;
         int n;
         double expected;
-    } cases[] = {{2.5, 0, 2.0}, {3.5, 0, 4.0}, {-2.5, 0, -2.0}, {282.6645, 3, 282.664}, {0.1249, 2, 0.12}, {7.0, 2, 7.0}};
+    } cases[] = {{2.5, 0, 2.0},          {3.5, 0, 4.0},     {-2.5, 0, -2.0},
+                 {282.6645, 3, 282.664}, {0.1249, 2, 0.12}, {7.0, 2, 7.0}};
     for (const Case& c : cases)
         EXPECT_EQ(Round(c.x, c.n), c.expected) << c.x << " to " << c.n;
     // The single nearest 2.675 lies just below the half, so it rounds down.

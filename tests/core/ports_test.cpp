@@ -55,7 +55,8 @@ TEST(Ports, DamageTypeWords) {
 TEST(Ports, RowsOfEachListKind) {
     Calculator c;
     DamageTypes(c, 0, 1);
-    const Rows rear = {"Empty", "Phaser Beam Array", "Phaser Turret", "Quantum Torpedo Launcher", "Quantum Mine Launcher"};
+    const Rows rear = {"Empty", "Phaser Beam Array", "Phaser Turret", "Quantum Torpedo Launcher",
+                       "Quantum Mine Launcher"};
     const Rows common = {"Empty", "Phaser Beam Array", "Phaser Cannon", "Dual Phaser Beam Bank"};
     const Rows tail = {"Phaser Turret", "Quantum Torpedo Launcher"};
     auto join = [&](Rows middle, Rows end) {
@@ -65,7 +66,9 @@ TEST(Ports, RowsOfEachListKind) {
         rows.insert(rows.end(), end.begin(), end.end());
         return rows;
     };
-    const Rows forward[4] = {{}, join({"Phaser Dual Cannons", "Phaser Dual Heavy Cannons"}, {}), join({}, {}),
+    const Rows forward[4] = {{},
+                             join({"Phaser Dual Cannons", "Phaser Dual Heavy Cannons"}, {}),
+                             join({}, {}),
                              join({}, {"Shuttle Phaser Beam Array"})};
     for (int list = 1; list <= 3; ++list) {
         WeaponAdd(c, list, 1);
@@ -254,8 +257,9 @@ TEST(WeaponType, ConsoleOnTheRewrittenRowKeepsItsPlace) {
     Calculator c;
     Relative(c, 0);
     ChooseType(c, 1, 1, 0);
-    const Rows named = {"Phaser Dual (Heavy) Cannons", "Dual Phaser Beam Bank", "Phaser Cannon", "Phaser Beam Array",
-                        "Phaser Turret", "Quantum Torpedo Launcher", "Quantum Mine Launcher"};
+    const Rows named = {"Phaser Dual (Heavy) Cannons", "Dual Phaser Beam Bank", "Phaser Cannon",
+                        "Phaser Beam Array",           "Phaser Turret",         "Quantum Torpedo Launcher",
+                        "Quantum Mine Launcher"};
     EXPECT_EQ(std::tuple(Captions(c.Alpha()), Captions(c.Omega())), std::tuple(named, named));
 }
 

@@ -68,13 +68,15 @@ TEST(Registry, CoversEveryFieldOfEveryRecord) {
     ExpectCovered(registry, c.main, "Form1");
     for (Vessel v = 1; v <= 2; ++v) {
         // `vessel` is the record's own bookkeeping, not a control.
-        ExpectCovered(registry, c.settings[v], "settings " + std::to_string(v), At(c.settings[v].vessel) + sizeof(Vessel));
+        ExpectCovered(registry, c.settings[v], "settings " + std::to_string(v),
+                      At(c.settings[v].vessel) + sizeof(Vessel));
         ExpectCovered(registry, c.skills[v], "skills " + std::to_string(v), At(c.skills[v].vessel) + sizeof(Vessel));
     }
     // Only [1..6][2..8][1..5] of the coefficients have names; the array
     // counts as one.
     const auto begin = At(c.state), end = begin + sizeof c.state;
-    const auto coefficients = At(c.state.DPWCoefficient), coefficientsEnd = coefficients + sizeof c.state.DPWCoefficient;
+    const auto coefficients = At(c.state.DPWCoefficient),
+               coefficientsEnd = coefficients + sizeof c.state.DPWCoefficient;
     std::vector<Span> spans;
     for (const Span& s : SpansWithin(registry, begin, end))
         if (s.start < coefficients || s.start >= coefficientsEnd) spans.push_back(s);
@@ -121,7 +123,8 @@ TEST(Registry, FindsFieldsByTheProgramsNamesAndIndexBases) {
         EXPECT_EQ(std::tuple(k.field, ref->kind()), std::tuple(SpanOf(*ref).start, k.kind)) << k.name;
     }
     // Outside the bases, or a name that differs: nothing.
-    for (const char* name : {"Form1.Forward[0]", "State.ArcDPS[0,3]", "State.DPWCoefficient[1,1,1]", "form1.Forward[1]"})
+    for (const char* name :
+         {"Form1.Forward[0]", "State.ArcDPS[0,3]", "State.DPWCoefficient[1,1,1]", "form1.Forward[1]"})
         EXPECT_EQ(registry.find(name), nullptr) << name;
     EXPECT_TRUE(registry.isArray("State.DPWCoefficient"));
     EXPECT_FALSE(registry.isArray("Form1.Simplified"));

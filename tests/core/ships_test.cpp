@@ -341,8 +341,9 @@ TEST(Cascade, OmegaFollowsAlphaInTheSamePass) {
     OmegaCaptain(c, 0, 1, 0); // a Federation Omega on its same-as rows
     ChooseClass(c, 1, "Bird of Prey");
     EXPECT_EQ(GetClass(c, 2), "Cruiser");
-    EXPECT_EQ(c.main.ShipTier[2].rows(), (Rows{"Same As Alpha", "Tier 1- Light Cruiser", "Tier 2- Cruiser",
-                                               "Tier 3- Heavy Cruiser", "Tier 4- Exploration Cruiser", "Tier 5- Various"}));
+    EXPECT_EQ(c.main.ShipTier[2].rows(),
+              (Rows{"Same As Alpha", "Tier 1- Light Cruiser", "Tier 2- Cruiser", "Tier 3- Heavy Cruiser",
+                    "Tier 4- Exploration Cruiser", "Tier 5- Various"}));
     EXPECT_EQ(c.main.ShipTier[2].index(), 0);
     EXPECT_EQ(c.main.ShipSubclass[2].rows(), (Rows{"Same As Alpha", "Miranda Class Frigate",
                                                    "Constitution Class Light Cruiser", "NX Class Light Escort"}));
