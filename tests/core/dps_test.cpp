@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <regex>
+#include <tuple>
 
 namespace vantorel {
 namespace {
@@ -145,13 +146,11 @@ TEST(DpsAssembly, SkillFactors) {
     // clang-format on
     for (const Case& k : cases) {
         Calculator c;
-        c.state.BeamSkill[1] = static_cast<std::int16_t>(k.beam);
-        c.state.RapidFire[1] = static_cast<std::int16_t>(k.rapid);
-        c.state.ScatterVolley[1] = static_cast<std::int16_t>(k.scatter);
-        c.state.SkillTargets[1] = static_cast<std::int16_t>(k.targets);
-        EXPECT_EQ(BeamSkillModifier(c, 1), k.beamFactor) << k.name;
-        EXPECT_EQ(CannonSkillModifier(c, 1, false), k.cannonFactor) << k.name;
-        EXPECT_EQ(CannonSkillModifier(c, 1, true), k.turretFactor) << k.name;
+        std::tie(c.state.BeamSkill[1], c.state.RapidFire[1], c.state.ScatterVolley[1], c.state.SkillTargets[1]) =
+            std::tuple(k.beam, k.rapid, k.scatter, k.targets);
+        EXPECT_EQ(std::tuple(BeamSkillModifier(c, 1), CannonSkillModifier(c, 1, false), CannonSkillModifier(c, 1, true)),
+                  std::tuple(k.beamFactor, k.cannonFactor, k.turretFactor))
+            << k.name;
     }
     // The no-skills pass ignores activated skills.
     Calculator c;
@@ -186,11 +185,8 @@ void Load(Calculator& c, int type, const Skills& k, bool relative = true) {
     c.Alpha().WeaponType[2].setIndex(type);
     if (!relative) c.Alpha().RelativeDPS.setValue(0);
     CalculatorState& s = c.state;
-    s.TorpedoHighYield[1] = static_cast<std::int16_t>(k.highYield);
-    s.TorpedoSpread[1] = static_cast<std::int16_t>(k.spread);
-    s.SkillTargets[1] = static_cast<std::int16_t>(k.targets);
-    s.MineSkill[1] = static_cast<std::int16_t>(k.mines);
-    s.BeamOverload[1] = static_cast<std::int16_t>(k.overload);
+    std::tie(s.TorpedoHighYield[1], s.TorpedoSpread[1], s.SkillTargets[1], s.MineSkill[1], s.BeamOverload[1]) =
+        std::tuple(k.highYield, k.spread, k.targets, k.mines, k.overload);
 }
 
 TEST(Burst, TorpedoSkill) {
