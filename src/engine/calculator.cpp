@@ -1,6 +1,7 @@
 #include "engine/calculator.h"
 
 #include "engine/numbers.h"
+#include "mainwindow/layout.h"
 
 namespace vantorel {
 
@@ -214,6 +215,7 @@ MainSelection::MainSelection() {
     Cline.setVisible(false);
     HScroll1.setVisible(false);
     VScroll1.setVisible(false);
+    LayOutMainWindow(*this);
 }
 
 void VesselSettings::SetUp(Vessel v) {
@@ -525,6 +527,7 @@ void WireHandlers(Calculator& c) {
     m.Reset.setHandler([calc] { ResetClicked(*calc, 1); });
     m.CReset.setHandler([calc] { ResetClicked(*calc, 2); });
     m.Compare.setHandler([calc] { CompareClicked(*calc); });
+    WireScrollBars(c);
     m.HideCompare.setHandler([calc] { HideCompareClicked(*calc); });
 
     for (Vessel v = 1; v <= 2; ++v) {

@@ -36,8 +36,6 @@ QFont BoxFont() {
 MainWindow::MainWindow(Calculator& c, QWidget* parent)
     : QMainWindow(parent), m_c(c), m_twips(gui::Twips::forScreen(QGuiApplication::primaryScreen())) {
     MainSelection& m = c.main;
-    LayOutMainWindow(m);
-    WireScrollBars(c);
 
     setObjectName(QStringLiteral("Form1"));
     auto* client = new QWidget(this);
