@@ -35,7 +35,7 @@ std::vector<std::string> StartPowerRows() {
     return rows;
 }
 
-// Box tops of Part 3.1's table, by box index: label top, box top.
+// Where each result box and its caption stand on the window, by box index.
 constexpr int kLabelTop[14] = {2520, 3240, 3960, 3960, 5400, 5400, 4680, 5400, 6120, 6840, 6840, 5400, 1800, 7560};
 constexpr int kBoxTop[14] = {2760, 3480, 4200, 4200, 5640, 5640, 4920, 5640, 6360, 7080, 7080, 5640, 2040, 7800};
 const char* const kBoxCaption[14] = {"Forward 45", "Forward 90",   "Forward 110", "Forward 180", "Forward 250",
