@@ -7,6 +7,8 @@
 
 #include "engine/records.h"
 
+#include <array>
+
 #include <string>
 
 namespace vantorel {
@@ -48,6 +50,23 @@ struct VesselFactors {
     float criticalBoosted = 1.0f; // CriticalMultiplier(v, true, 0, 0)
 };
 VesselFactors FactorsOf(const Calculator& c, Vessel v);
+// One kind of energy weapon in a set, with the factors of its term: the DPW
+// row it is read from, its distance, skill and equipment factors, and whether
+// it takes the severity-boosted critical factor. The DPS sums the terms; the
+// results tooltip writes one entry for each.
+struct WeaponTerm {
+    int count = 0;
+    int row = 0;
+    bool beam = false;
+    float range = 1.0f;
+    float skill = 1.0f;
+    float modifier = 1.0f;
+    bool boosted = false;
+};
+using WeaponTerms = std::array<WeaponTerm, 7>;
+WeaponTerms TermsOf(const Calculator& c, const VesselFactors& f, int dualHeavyCannons, int dualCannons,
+                    int dualBeamBanks, int cannons, int beamArrays, int turrets, int shuttleBeamArrays, int distance,
+                    Vessel v, bool noSkills);
 float CalculateDPS(Calculator& c, const VesselFactors& f, int dualHeavyCannons, int dualCannons, int dualBeamBanks,
                    int cannons, int beamArrays, int turrets, int shuttleBeamArrays, int power, int distance, Vessel v,
                    bool noSkills);

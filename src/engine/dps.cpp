@@ -3,6 +3,7 @@
 #include "engine/numbers.h"
 
 #include <algorithm>
+#include <type_traits>
 
 namespace vantorel {
 
@@ -35,6 +36,29 @@ template <typename T> T Term(int count, T dpw, float range, float skill, float m
     t = t * static_cast<T>(modifier);
     t = t * static_cast<T>(critical);
     return t;
+}
+
+template <typename T> T ValueOf(const DPW& d) {
+    if constexpr (std::is_same_v<T, float>)
+        return d.single;
+    else
+        return d.dbl;
+}
+
+// The terms added in the order of the kinds, then scaled by resistance and
+// accuracy. A term of no weapons adds nothing and is left out.
+template <typename T>
+T SumOfTerms(const CalculatorState& s, const WeaponTerms& terms, int power, int total, float crit, float critBoosted,
+             float resistance, float accuracy) {
+    T sum = 0;
+    for (const WeaponTerm& w : terms) {
+        if (w.count == 0) continue;
+        const T dpw = ValueOf<T>(DPWCalc(s, power, w.row, total));
+        sum = sum + Term(w.count, dpw, w.range, w.skill, w.modifier, w.boosted ? critBoosted : crit);
+    }
+    sum = sum * static_cast<T>(resistance);
+    sum = sum * static_cast<T>(accuracy);
+    return sum;
 }
 
 } // namespace
@@ -170,14 +194,34 @@ float CalculateDPS(Calculator& c, int dualHeavyCannons, int dualCannons, int dua
                         shuttleBeamArrays, power, distance, v, noSkills);
 }
 
-float CalculateDPS(Calculator& c, const VesselFactors& f, int dualHeavyCannons, int dualCannons, int dualBeamBanks,
-                   int cannons, int beamArrays, int turrets, int shuttleBeamArrays, int power, int distance, Vessel v,
-                   bool noSkills) {
+WeaponTerms TermsOf(const Calculator& c, const VesselFactors& f, int dualHeavyCannons, int dualCannons,
+                    int dualBeamBanks, int cannons, int beamArrays, int turrets, int shuttleBeamArrays, int distance,
+                    Vessel v, bool noSkills) {
     const float beamSkill = noSkills ? 1.0f : f.beamSkill;
     const float cannonSkill = noSkills ? 1.0f : f.cannonSkill;
     const float turretSkill = noSkills ? 1.0f : f.turretSkill;
     const float beamRange = GetRangeMod(distance, 1);
     const float cannonRange = GetRangeMod(distance, 2);
+    const float cannonMod = c.state.CannonModifier[v];
+    const float beamMod = c.state.BeamModifier[v];
+    // A shuttle array is read as a Beam Array and scaled to its own damage.
+    const float shuttleMod = shuttleBeamArrays > 0 ? ShuttleArrayModifier(c, v, shuttleBeamArrays) : 0.0f;
+    return {{
+        {dualHeavyCannons, 1, false, cannonRange, cannonSkill, cannonMod, true},
+        {dualCannons, 2, false, cannonRange, cannonSkill, cannonMod, false},
+        {dualBeamBanks, 3, true, beamRange, beamSkill, beamMod, false},
+        {cannons, 4, false, cannonRange, cannonSkill, cannonMod, false},
+        {beamArrays, 5, true, beamRange, beamSkill, beamMod, false},
+        {turrets, 6, false, cannonRange, turretSkill, cannonMod, false},
+        {shuttleBeamArrays, 5, true, beamRange, beamSkill, shuttleMod, false},
+    }};
+}
+
+float CalculateDPS(Calculator& c, const VesselFactors& f, int dualHeavyCannons, int dualCannons, int dualBeamBanks,
+                   int cannons, int beamArrays, int turrets, int shuttleBeamArrays, int power, int distance, Vessel v,
+                   bool noSkills) {
+    const WeaponTerms terms = TermsOf(c, f, dualHeavyCannons, dualCannons, dualBeamBanks, cannons, beamArrays, turrets,
+                                      shuttleBeamArrays, distance, v, noSkills);
     const int total =
         dualHeavyCannons + dualCannons + dualBeamBanks + cannons + beamArrays + turrets + shuttleBeamArrays;
 
@@ -187,41 +231,15 @@ float CalculateDPS(Calculator& c, const VesselFactors& f, int dualHeavyCannons, 
         crit = static_cast<float>(crit * 1.03375);
         critBoosted = static_cast<float>(critBoosted * 1.03375);
     }
-    const float shuttleModifier = shuttleBeamArrays > 0 ? ShuttleArrayModifier(c, v, shuttleBeamArrays) : 0.0f;
-
-    const float cannonMod = c.state.CannonModifier[v];
-    const float beamMod = c.state.BeamModifier[v];
     const float resistance = c.state.ResistanceFactor[v];
     const float accuracy = c.state.AccuracyFactor[v];
 
-    DPW d[8];
-    for (int k = 1; k <= 6; ++k)
-        d[k] = DPWCalc(c.state, power, k, total);
-    d[7] = DPWCalc(c.state, power, 5, total);
-
     float result = 0.0f;
     if (total == 1) {
-        float sum = Term(dualHeavyCannons, d[1].single, cannonRange, cannonSkill, cannonMod, critBoosted);
-        sum = sum + Term(dualCannons, d[2].single, cannonRange, cannonSkill, cannonMod, crit);
-        sum = sum + Term(dualBeamBanks, d[3].single, beamRange, beamSkill, beamMod, crit);
-        sum = sum + Term(cannons, d[4].single, cannonRange, cannonSkill, cannonMod, crit);
-        sum = sum + Term(beamArrays, d[5].single, beamRange, beamSkill, beamMod, crit);
-        sum = sum + Term(turrets, d[6].single, cannonRange, turretSkill, cannonMod, crit);
-        sum = sum + Term(shuttleBeamArrays, d[7].single, beamRange, beamSkill, shuttleModifier, crit);
-        sum = sum * resistance;
-        sum = sum * accuracy;
-        result = Round(sum, 3);
+        result = Round(SumOfTerms<float>(c.state, terms, power, total, crit, critBoosted, resistance, accuracy), 3);
     } else if (total >= 2) {
-        double sum = Term(dualHeavyCannons, d[1].dbl, cannonRange, cannonSkill, cannonMod, critBoosted);
-        sum = sum + Term(dualCannons, d[2].dbl, cannonRange, cannonSkill, cannonMod, crit);
-        sum = sum + Term(dualBeamBanks, d[3].dbl, beamRange, beamSkill, beamMod, crit);
-        sum = sum + Term(cannons, d[4].dbl, cannonRange, cannonSkill, cannonMod, crit);
-        sum = sum + Term(beamArrays, d[5].dbl, beamRange, beamSkill, beamMod, crit);
-        sum = sum + Term(turrets, d[6].dbl, cannonRange, turretSkill, cannonMod, crit);
-        sum = sum + Term(shuttleBeamArrays, d[7].dbl, beamRange, beamSkill, shuttleModifier, crit);
-        sum = sum * static_cast<double>(resistance);
-        sum = sum * static_cast<double>(accuracy);
-        result = static_cast<float>(Round(sum, 3));
+        result = static_cast<float>(
+            Round(SumOfTerms<double>(c.state, terms, power, total, crit, critBoosted, resistance, accuracy), 3));
     }
 
     // No test ever fired dual cannons of either kind among eight weapons.

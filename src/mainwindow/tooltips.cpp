@@ -59,11 +59,6 @@ std::string CalculateToolTip(Calculator& c, const VesselFactors& f, int dualHeav
                              int dualBeamBanks, int cannons, int beamArrays, int turrets, int shuttleBeamArrays,
                              int power, int distance, Vessel v) {
     const CalculatorState& s = c.state;
-    const float beamSkill = f.beamSkill;
-    const float cannonSkill = f.cannonSkill;
-    const float turretSkill = f.turretSkill;
-    const float beamRange = GetRangeMod(distance, 1);
-    const float cannonRange = GetRangeMod(distance, 2);
     float boosted = f.criticalBoosted;
     float plain = f.critical;
     // An addition where the DPS multiplies by 1.03375: the parts of a custom
@@ -72,38 +67,28 @@ std::string CalculateToolTip(Calculator& c, const VesselFactors& f, int dualHeav
         boosted += 0.03375f;
         plain += 0.03375f;
     }
-
-    struct Kind {
-        int count;
-        const char* word;
+    // The words of the kinds, in the order of the terms; dual cannons of
+    // both kinds are named in the plural even alone.
+    struct Word {
+        const char* text;
         bool plural;
-        int row;
-        bool beam;
-        float range, skill;
-        bool shuttle;
-        float modifier, critical;
     };
-    const Kind kinds[7] = {
-        {dualHeavyCannons, " Dual Heavy Cannons", false, 1, false, cannonRange, cannonSkill, false, s.CannonModifier[v],
-         boosted},
-        {dualCannons, " Dual Cannons", false, 2, false, cannonRange, cannonSkill, false, s.CannonModifier[v], plain},
-        {dualBeamBanks, " Dual Beam Bank", true, 3, true, beamRange, beamSkill, false, s.BeamModifier[v], plain},
-        {cannons, " Cannon", true, 4, false, cannonRange, cannonSkill, false, s.CannonModifier[v], plain},
-        {beamArrays, " Beam Array", true, 5, true, beamRange, beamSkill, false, s.BeamModifier[v], plain},
-        {turrets, " Turret", true, 6, false, cannonRange, turretSkill, false, s.CannonModifier[v], plain},
-        {shuttleBeamArrays, " Shuttle Beam Array", true, 5, true, beamRange, beamSkill, true, 0.0f, plain},
-    };
+    static constexpr Word kWords[7] = {
+        {" Dual Heavy Cannons", false}, {" Dual Cannons", false}, {" Dual Beam Bank", true},    {" Cannon", true},
+        {" Beam Array", true},          {" Turret", true},        {" Shuttle Beam Array", true}};
+    const WeaponTerms terms = TermsOf(c, f, dualHeavyCannons, dualCannons, dualBeamBanks, cannons, beamArrays, turrets,
+                                      shuttleBeamArrays, distance, v, false);
     const int total =
         dualHeavyCannons + dualCannons + dualBeamBanks + cannons + beamArrays + turrets + shuttleBeamArrays;
 
     std::string text;
     std::string cannonPart;
     std::string beamPart;
-    for (const Kind& k : kinds) {
+    for (std::size_t i = 0; i < terms.size(); ++i) {
+        const WeaponTerm& k = terms[i];
         if (k.count <= 0) continue;
-        const float modifier = k.shuttle ? ShuttleArrayModifier(c, v, k.count) : k.modifier;
-        const float value = EntryValue(DPWCalc(s, power, k.row, total), k.count, k.range, k.skill, modifier, k.critical,
-                                       s.ResistanceFactor[v], s.AccuracyFactor[v]);
+        const float value = EntryValue(DPWCalc(s, power, k.row, total), k.count, k.range, k.skill, k.modifier,
+                                       k.boosted ? boosted : plain, s.ResistanceFactor[v], s.AccuracyFactor[v]);
         std::string& skillPart = k.beam ? beamPart : cannonPart;
         if (skillPart.empty()) skillPart = k.beam ? BeamSkillPart(s, v) : CannonSkillPart(s, v);
         if (text.empty())
@@ -111,8 +96,8 @@ std::string CalculateToolTip(Calculator& c, const VesselFactors& f, int dualHeav
         else
             text += ", ";
         AppendPlainText(text, k.count);
-        text += k.word;
-        if (k.plural && k.count > 1) text += 's';
+        text += kWords[i].text;
+        if (kWords[i].plural && k.count > 1) text += 's';
         text += skillPart;
         AppendSignedText(text, value);
     }
