@@ -144,37 +144,20 @@ void ModifiedDPS(Calculator& c, Vessel v) {
 
     const int alphaLevel = st.AttackPatternAlpha[v];
     const int omegaLevel = st.AttackPatternOmega[v];
+    // The share of base damage that each level of the two attack patterns
+    // adds, base + per skill point; level 1 of Alpha counts 48 points at most.
+    static constexpr double kAlphaBase[4] = {0, 0.18, 0.24, 0.3}, kAlphaPerPoint[4] = {0, 0.0018, 0.0024, 0.003};
+    static constexpr double kOmegaBase[4] = {0, 0.15, 0.2, 0.25}, kOmegaPerPoint[4] = {0, 0.0015, 0.002, 0.0025};
     double alphaFraction = 0.0;
     double omegaFraction = 0.0;
     if (alphaLevel > 0 || omegaLevel > 0) {
         const double skill = GetAttackPatternSkill(c, v);
-        const double skill48 = std::min(skill, 48.0);
-        switch (alphaLevel) {
-        case 1:
-            alphaFraction = 0.18 + 0.0018 * skill48;
-            break;
-        case 2:
-            alphaFraction = 0.24 + 0.0024 * skill;
-            break;
-        case 3:
-            alphaFraction = 0.3 + 0.003 * skill;
-            break;
-        default:
-            break;
+        if (alphaLevel >= 1 && alphaLevel <= 3) {
+            const double points = alphaLevel == 1 ? std::min(skill, 48.0) : skill;
+            alphaFraction = kAlphaBase[alphaLevel] + kAlphaPerPoint[alphaLevel] * points;
         }
-        switch (omegaLevel) {
-        case 1:
-            omegaFraction = 0.15 + 0.0015 * skill;
-            break;
-        case 2:
-            omegaFraction = 0.2 + 0.002 * skill;
-            break;
-        case 3:
-            omegaFraction = 0.25 + 0.0025 * skill;
-            break;
-        default:
-            break;
-        }
+        if (omegaLevel >= 1 && omegaLevel <= 3)
+            omegaFraction = kOmegaBase[omegaLevel] + kOmegaPerPoint[omegaLevel] * skill;
     }
     float alphaEnergy = static_cast<float>(alphaFraction * 80);
     float omegaEnergy = static_cast<float>(omegaFraction * 80);
