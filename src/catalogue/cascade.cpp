@@ -130,11 +130,11 @@ void ShipControl(Calculator& c) {
         CalculatePower(c, v, false);
     }
     ShipImageControl(c);
-    if (c.Alpha().RelativeDPS.value() == 0) {
+    if (!RelativeMode(c)) {
         MatchConsoleLimit(c, 1, c.Alpha().MatchConsole.value() == 1 ? 0 : -1);
         if (c.state.Comparing != 0) MatchConsoleLimit(c, 2, c.Omega().MatchConsole.value() == 1 ? 0 : -1);
     }
-    if (c.Alpha().RelativeDPS.value() == 1) CalculateFiringArcs(c);
+    if (RelativeMode(c)) CalculateFiringArcs(c);
 }
 
 void MatchConsoleLimit(Calculator& c, Vessel v, int keep) {
@@ -149,7 +149,7 @@ void MatchConsoleLimit(Calculator& c, Vessel v, int keep) {
             s.TacticalConsoleRarity[i].setBack(Grey);
         }
         // A mirrored Omega window stays grey: it is a read-only copy.
-        const bool paint = v == 1 || c.Omega().SameAsAlpha.value() == 0;
+        const bool paint = v == 1 || !OmegaMirrorsAlpha(c);
         for (int i = 1; i <= slots; ++i) {
             s.TacticalConsoleEquipped[i].setValue(1);
             if (!paint) continue;

@@ -43,7 +43,7 @@ std::string OppositeClass(const Calculator& c, const std::string& a) {
 
 int IsUnrestricted(const Calculator& c, Vessel v) {
     if (v == 1) return c.Alpha().CharacterSettings.value();
-    if (c.Omega().SameAsAlpha.value() == 1 || c.Omega().Faction.index() == 0) return IsUnrestricted(c, 1);
+    if (OmegaMirrorsAlpha(c) || c.Omega().Faction.index() == 0) return IsUnrestricted(c, 1);
     return 0;
 }
 
@@ -51,7 +51,7 @@ int GetFaction(const Calculator& c, Vessel v) {
     if (IsUnrestricted(c, v) != 0) return 0;
     const int alphaFaction = c.Alpha().Faction.index() + 1;
     if (v == 1) return alphaFaction;
-    if (c.Omega().SameAsAlpha.value() == 1) return alphaFaction;
+    if (OmegaMirrorsAlpha(c)) return alphaFaction;
     if (c.Omega().Faction.index() != 0) return c.Omega().Faction.index();
     return alphaFaction;
 }

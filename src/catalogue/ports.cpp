@@ -67,7 +67,7 @@ std::string RecomposeRear(const std::string& t, const std::string& e, const std:
 std::string GetDamageType(const Calculator& c, Vessel v, int group) {
     // Relative DPS measures every energy weapon against one untyped beam
     // array; projectiles keep their type.
-    if (group == 1 && c.Alpha().RelativeDPS.value() == 1) return {};
+    if (group == 1 && RelativeMode(c)) return {};
     const int index = c.settings[v].WeaponType[group].index();
     if (index < 0 || index > 5) return {};
     return group == 1 ? kEnergyWords[index] : kProjectileWords[index];

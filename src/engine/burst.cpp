@@ -20,8 +20,6 @@ constexpr float kDamageToDPW = 0.8889786f;
 constexpr float kMineFactor[4] = {1, 1.6f, 2.4f, 3.2f};
 constexpr float kOverloadFactor[4] = {0, 6.041f, 7.253f, 8.467f};
 
-bool Relative(const Calculator& c) { return c.Alpha().RelativeDPS.value() != 0; }
-
 float MineFactor(int level) { return level >= 0 && level <= 3 ? kMineFactor[level] : 1.0f; }
 
 // The torpedo type without its trailing blank: "Quantum", "Plasma", ...
@@ -56,7 +54,7 @@ float OverloadTerm(Calculator& c, int weapon, Vessel v) {
 float MineTerm(const Calculator& c, float critical, Vessel v) {
     const CalculatorState& s = c.state;
     const float m = MineFactor(s.MineSkill[v]);
-    if (Relative(c))
+    if (RelativeMode(c))
         return BaseProjectileDamage(c, v) * kMinesPerTorpedo * critical * s.ResistanceFactor[v] * s.AccuracyFactor[v] *
                m;
     return m * s.MineDamage[v] * critical * s.ResistanceFactor[v] * s.AccuracyFactor[v];
@@ -113,7 +111,7 @@ float CalculateBurst(Calculator& c, int torpedoes, int mines, int dualBeamBanks,
         float f = 1.0f;
         if (TorpedoType(c, v) == "Plasma")
             f = s.TorpedoHighYield[v] > 0 ? static_cast<float>(s.SkillTargets[v]) * kHeavyPlasmaBurn : kPlasmaBurn;
-        if (Relative(c))
+        if (RelativeMode(c))
             sum = BaseProjectileDamage(c, v) * critical * f * s.ResistanceFactor[v] * s.AccuracyFactor[v] * t;
         else
             sum = t * s.TorpedoDamage[v] * critical * f * s.ResistanceFactor[v] * s.AccuracyFactor[v];
@@ -140,8 +138,8 @@ std::string BurstToolTip(Calculator& c, int torpedoes, int mines, int dualBeamBa
         const std::string prefix = GetDamageType(c, v, 2);
         const bool plasma = TorpedoType(c, v) == "Plasma";
         const float t = TorpedoSkillOrOne(c, v);
-        float d = Relative(c) ? Round(BaseProjectileDamage(c, v) * t * critical, 3)
-                              : Round(t * s.TorpedoDamage[v] * critical, 3);
+        float d = RelativeMode(c) ? Round(BaseProjectileDamage(c, v) * t * critical, 3)
+                                  : Round(t * s.TorpedoDamage[v] * critical, 3);
         d = d * s.ResistanceFactor[v] * s.AccuracyFactor[v];
         const int highYield = s.TorpedoHighYield[v];
         const int spread = s.TorpedoSpread[v];

@@ -13,6 +13,18 @@
 
 namespace vantorel {
 
+// Relative DPS has one value for both vessels; Alpha's field is the one read.
+inline bool RelativeMode(const Calculator& c) { return c.Alpha().RelativeDPS.value() != 0; }
+// Omega follows Alpha's settings while its window mirrors Alpha's.
+inline bool OmegaMirrorsAlpha(const Calculator& c) { return c.Omega().SameAsAlpha.value() == 1; }
+// The settings a vessel's combat figures come from: a mirrored Omega reads Alpha's.
+inline const VesselSettings& CombatSource(const Calculator& c, Vessel v) {
+    return v == 1 || OmegaMirrorsAlpha(c) ? c.Alpha() : c.Omega();
+}
+inline VesselSettings& CombatSource(Calculator& c, Vessel v) {
+    return v == 1 || OmegaMirrorsAlpha(c) ? c.Alpha() : c.Omega();
+}
+
 // ---- Start-up and wiring of handlers (engine/calculator.cpp) -------------
 // Runs steps 1 to 6 of the start of the main window. Called by Calculator().
 void StartUp(Calculator& c);

@@ -12,21 +12,11 @@ namespace {
 // for players who want to see their damage without them.
 constexpr int kCriticalsOff = 47;
 
-// Combat settings that a mirrored Omega takes from Alpha.
-const VesselSettings& CombatSource(const Calculator& c, Vessel v) {
-    return (v == 1 || c.Omega().SameAsAlpha.value() == 1) ? c.Alpha() : c.Omega();
-}
-VesselSettings& CombatSource(Calculator& c, Vessel v) {
-    return (v == 1 || c.Omega().SameAsAlpha.value() == 1) ? c.Alpha() : c.Omega();
-}
-
 // Attack patterns by level 1..3: a fixed part and a part per point of skill.
 constexpr double kPatternChance[4] = {0, 1.2, 1.6, 2};
 constexpr double kPatternChancePerSkill[4] = {0, 0.012, 0.016, 0.02};
 constexpr double kPatternSeverity[4] = {0, 12, 16, 20};
 constexpr double kPatternSeverityPerSkill[4] = {0, 0.12, 0.16, 0.2};
-
-bool Relative(const Calculator& c) { return c.Alpha().RelativeDPS.value() != 0; }
 
 // The level in a skill box. The critical factor asks for the attack pattern
 // skill on every DPS of every row, so the usual box ("9", " 7 ") is read
@@ -127,7 +117,7 @@ void ModifiedCritical(Calculator& c, Vessel v) {
         severityText += ", Excess Accuracy: " + PlainText(Round(excess, 2)) + "%";
     }
 
-    if (!Relative(c)) {
+    if (!RelativeMode(c)) {
         const int crtD = CountMods(own, kCrtD);
         const int crtH = CountMods(own, kCrtH);
         if (crtD > 0) {
@@ -190,7 +180,7 @@ void ModifiedAccuracy(Calculator& c, Vessel v) {
         level = NumericOr(src.CriticalSkill[1].text(), 0.0);
         defense = NumericOr(src.TargetDefense.text(), 0.0);
     }
-    const int accuracyMods = Relative(c) ? 0 : 10 * CountMods(src, kAcc);
+    const int accuracyMods = RelativeMode(c) ? 0 : 10 * CountMods(src, kAcc);
     // A level far outside the table scores nothing; keep it out of the int.
     const int wholeLevel = std::fabs(level) < 1e6 ? WholeNumber(level) : 0;
     const float vectorsAccuracy = (SkillPoints(1, wholeLevel) * 15) / 18;
@@ -231,7 +221,7 @@ void ModifiedResistance(Calculator& c, Vessel v) {
     VesselSettings& own = c.settings[v];
     const bool off = v == 1 ? c.Alpha().DamageResistance.value() == 0
                             : (c.Omega().DamageResistance.value() == 0 ||
-                               (c.Alpha().DamageResistance.value() == 0 && c.Omega().SameAsAlpha.value() == 1));
+                               (c.Alpha().DamageResistance.value() == 0 && OmegaMirrorsAlpha(c)));
     if (off) {
         own.DamageReduction.setCaption("0%");
         c.state.ResistanceFactor[v] = 1.0f;

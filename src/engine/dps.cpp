@@ -25,8 +25,6 @@ constexpr float kSkillPoints[3][9] = {
 // The Attack Vectors level that switches critical hits off altogether.
 constexpr int kNoCriticalLevel = 47;
 
-bool RelativeMode(const Calculator& c) { return c.Alpha().RelativeDPS.value() != 0; }
-
 // One weapon term, ((((count × D) × R) × S) × M) × C, in the precision of
 // the DPW: a lone weapon is summed in single, a group in double.
 template <typename T> T Term(int count, T dpw, float range, float skill, float modifier, float critical) {

@@ -15,8 +15,6 @@ constexpr float kShuttleRankFactor[9] = {0.0f,     0.62918f, 0.66025f, 0.68402f,
 // The scale of one weapon mark in the damage of a beam array.
 constexpr float kMarkScale = 0.8889786f;
 
-bool RelativeMode(const Calculator& c) { return c.Alpha().RelativeDPS.value() != 0; }
-
 } // namespace
 
 int GetMark(const Calculator& c, Vessel v) {

@@ -8,8 +8,6 @@ namespace vantorel {
 
 namespace {
 
-bool Relative(const Calculator& c) { return c.Alpha().RelativeDPS.value() != 0; }
-
 // Turns the damage of the reference weapon, per 50 points, into the factor on
 // the tested DPW. A single, like every value of this file unless said.
 constexpr float kDamageToDPW = 0.8889786f;
@@ -106,7 +104,7 @@ float BaseProjectileDamage(const Calculator& c, Vessel v) {
     static constexpr float kActual[6] = {1352, 1503, 1061, 1157.5f, 978, 6554};
     const int type = c.settings[v].WeaponType[2].index();
     if (type < 0 || type > 5) return 0.0f;
-    return Relative(c) ? kRelative[type] : kActual[type];
+    return RelativeMode(c) ? kRelative[type] : kActual[type];
 }
 
 void ResetModifier(Calculator& c) {
@@ -129,7 +127,7 @@ void ResetModifier(Calculator& c) {
 }
 
 void ModifiedDPS(Calculator& c, Vessel v) {
-    if ((v == 2 && c.state.Comparing == 0) || Relative(c)) return;
+    if ((v == 2 && c.state.Comparing == 0) || RelativeMode(c)) return;
     const VesselSettings& settings = c.settings[v];
     CalculatorState& st = c.state;
 

@@ -88,7 +88,7 @@ void PowerLevelClicked(Calculator& c, Vessel v) {
     if (v == 1) UpdateSameAsAlphaPower(c);
     if (c.settings[v].ExtrapolatePower.value() == 1) {
         ModifiedPower(c, v);
-        if (c.Alpha().RelativeDPS.value() == 0) ModifiedDPS(c, v);
+        if (!RelativeMode(c)) ModifiedDPS(c, v);
     }
     ModifiedDPS(c, v);
 }
@@ -186,7 +186,7 @@ void UpdateNote(Calculator& c) {
         ShowNote(note, kDualCannonNote);
         return;
     }
-    if (c.Alpha().RelativeDPS.value() == 1 && (s.TacticalTeam[1] > 0 || (s.TacticalTeam[2] > 0 && s.Comparing != 0))) {
+    if (RelativeMode(c) && (s.TacticalTeam[1] > 0 || (s.TacticalTeam[2] > 0 && s.Comparing != 0))) {
         ShowNote(note, kTacticalTeamNote);
         return;
     }

@@ -63,7 +63,7 @@ std::string CalculateToolTip(Calculator& c, const VesselFactors& f, int dualHeav
     float plain = f.critical;
     // An addition where the DPS multiplies by 1.03375: the parts of a custom
     // tooltip need not add up to the box.
-    if (c.Alpha().RelativeDPS.value() == 0) {
+    if (!RelativeMode(c)) {
         boosted += 0.03375f;
         plain += 0.03375f;
     }

@@ -17,8 +17,6 @@ namespace vantorel {
 
 namespace {
 
-bool Relative(const Calculator& c) { return c.Alpha().RelativeDPS.value() != 0; }
-
 void SetEnabled(std::initializer_list<Control*> controls, bool on) {
     for (Control* ctl : controls)
         ctl->setEnabled(on);
@@ -29,8 +27,8 @@ void SetEnabled(std::initializer_list<Control*> controls, bool on) {
 // reads Alpha's combat settings, so its numbers move too.
 void CombatChanged(Calculator& c, Vessel v) {
     for (Vessel w = v; w <= 2; ++w) {
-        if (w == 2 && v == 1 && c.Omega().SameAsAlpha.value() != 1) break;
-        const VesselSettings& source = (w == 1 || c.Omega().SameAsAlpha.value() == 1) ? c.Alpha() : c.Omega();
+        if (w == 2 && v == 1 && !OmegaMirrorsAlpha(c)) break;
+        const VesselSettings& source = CombatSource(c, w);
         // Accuracy first: it settles the excess that the criticals read, and
         // runs ModifiedCritical itself while accuracy counts.
         ModifiedAccuracy(c, w);
@@ -119,7 +117,7 @@ void SkillChanged(Calculator& c, Vessel v, Follow follow) {
         SkillUpdate(c, w);
         if (follow == Follow::Resistance) ModifiedResistance(c, w);
         if (follow == Follow::Critical) ModifiedCritical(c, w);
-        if (follow != Follow::None && !Relative(c)) ModifiedDPS(c, w);
+        if (follow != Follow::None && !RelativeMode(c)) ModifiedDPS(c, w);
     }
 }
 

@@ -95,14 +95,12 @@ bool TypeSkillClosed(int k, int index, int rank) {
     return (index == 3 || index == 5) && rank < 5;
 }
 
-bool Mirrored(const Calculator& c) { return c.Omega().SameAsAlpha.value() == 1; }
-
 // The console rows that name a damage type are rewritten in place; the lists
 // are quiet meanwhile, and a console on that row keeps its place and mark.
 void RewriteConsoleRow(Calculator& c, Vessel v, int row, const std::string& text) {
     VesselSettings& s = c.settings[v];
     if (s.TacticalConsole[1].count() > row && s.TacticalConsole[1].row(row) == text) return;
-    const bool open = s.RelativeDPS.value() == 0 && (v == 1 || !Mirrored(c));
+    const bool open = s.RelativeDPS.value() == 0 && (v == 1 || !OmegaMirrorsAlpha(c));
     for (int i = 1; i <= 4; ++i) {
         List& console = s.TacticalConsole[i];
         List& mark = s.TacticalConsoleMark[i];
@@ -128,7 +126,7 @@ void RewriteConsoleRow(Calculator& c, Vessel v, int row, const std::string& text
 
 void UpdateTypeSkillBox(Calculator& c, Vessel v, int k, int index) {
     VesselSettings& s = c.settings[v];
-    if (v == 2 && Mirrored(c)) return;
+    if (v == 2 && OmegaMirrorsAlpha(c)) return;
     const bool custom = s.RelativeDPS.value() == 0;
     if (k == 2 && !custom) return;
     Text& box = s.WeaponSkill[k == 1 ? 4 : 8];
@@ -170,7 +168,7 @@ void DisplayedDPSUpdate(Calculator& c, Vessel v) {
         for (int i = 1; i <= 7; ++i)
             s.CalculatedWeaponDPSLabel[i].setCaption(named[i]);
     }
-    if (v == 1 && Mirrored(c)) DisplayedDPSUpdate(c, 2);
+    if (v == 1 && OmegaMirrorsAlpha(c)) DisplayedDPSUpdate(c, 2);
 }
 
 } // namespace
@@ -190,7 +188,7 @@ void WeaponTypeChanged(Calculator& c, Vessel v, int k) {
     UpdateTypeSkillBox(c, v, k, index);
     DisplayedDPSUpdate(c, v);
 
-    if (v == 1 && Mirrored(c)) {
+    if (v == 1 && OmegaMirrorsAlpha(c)) {
         // Omega's mirrored list is disabled, and a disabled list stays quiet
         // when assigned; the type handler must still rewrite Omega's rows.
         List& omega = c.Omega().WeaponType[k];
