@@ -11,7 +11,6 @@ int main(int argc, char* argv[]) {
     vantorel::Calculator calculator;
     vantorel::MainWindow window(calculator);
     FirstPaint painted(window);
-    vantorel::PlaceMainWindowAtStart(calculator);
-    calculator.main.Form1.setVisible(true);
+    vantorel::ShowMainWindowAtStart(calculator);
     return app.exec();
 }

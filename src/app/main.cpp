@@ -8,7 +8,6 @@ int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     vantorel::Calculator calculator;
     vantorel::MainWindow window(calculator);
-    vantorel::PlaceMainWindowAtStart(calculator);
-    calculator.main.Form1.setVisible(true);
+    vantorel::ShowMainWindowAtStart(calculator);
     return app.exec();
 }

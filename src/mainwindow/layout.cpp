@@ -212,7 +212,7 @@ void WireScrollBars(Calculator& c) {
     m.VScroll1.setHandler([&m] { m.Contents.setTop(-m.VScroll1.value()); });
 }
 
-void PlaceMainWindowAtStart(Calculator& c) {
+void ShowMainWindowAtStart(Calculator& c) {
     const StartPlace p = PlaceAtStart({c.workLeft, c.workTop, c.workWidth, c.workHeight}, kGraphWindowWidth);
     c.Alpha().Form.setWidth(p.alphaWidth);
     Window& form = c.main.Form1;
@@ -221,6 +221,7 @@ void PlaceMainWindowAtStart(Calculator& c) {
     form.setTop(p.top);
     form.setWidth(kSingleWidth);
     FitWindow(c);
+    form.setVisible(true);
 }
 
 } // namespace vantorel

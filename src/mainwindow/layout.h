@@ -3,7 +3,7 @@
 // The geometry of the main window in twips: where the vessel columns stand,
 // how the window fits the work area of the screen, and where it opens. The
 // rules are pure functions so that every screen size can be tried without a
-// screen; FitWindow and PlaceMainWindowAtStart apply them to the fields.
+// screen; FitWindow and ShowMainWindowAtStart apply them to the fields.
 
 #include "engine/records.h"
 
@@ -90,10 +90,10 @@ StartPlace PlaceAtStart(const WorkArea& work, int graphWidth);
 // scroll bars, and the colours of the window and of the rare shuttle array
 // check.
 void LayOutMainWindow(MainSelection& m);
-// The scroll bars move the page. Called once by the window that shows them.
+// The scroll bars move the page.
 void WireScrollBars(Calculator& c);
-// Steps 6 to 8 of the start of the main window: width of `Alpha`, place and
-// width of the main window, which runs the fit.
-void PlaceMainWindowAtStart(Calculator& c);
+// The end of the start: the width of `Alpha`, the place and width of the main
+// window (which runs the fit), then the main window is shown.
+void ShowMainWindowAtStart(Calculator& c);
 
 } // namespace vantorel

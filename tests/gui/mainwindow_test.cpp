@@ -156,8 +156,7 @@ class MainWindowTest final : public QObject {
     void init() {
         m_c = std::make_unique<Calculator>();
         m_window = std::make_unique<MainWindow>(*m_c);
-        PlaceMainWindowAtStart(*m_c);
-        m_c->main.Form1.setVisible(true);
+        ShowMainWindowAtStart(*m_c);
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     }
 

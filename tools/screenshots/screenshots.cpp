@@ -71,8 +71,7 @@ int main(int argc, char* argv[]) {
 
     Calculator c;
     vantorel::MainWindow window(c);
-    vantorel::PlaceMainWindowAtStart(c);
-    c.main.Form1.setVisible(true);
+    vantorel::ShowMainWindowAtStart(c);
     vantorel::MainSelection& m = c.main;
     Shooter shoot(window, folder);
     bool ok = shoot("single");
