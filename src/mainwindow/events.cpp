@@ -173,10 +173,10 @@ void UpdateNote(Calculator& c) {
     const CalculatorState& s = c.state;
     Label& note = c.main.Note;
     if (s.WeaponCount[11][1] > 0 || s.WeaponCount[11][2] > 0) {
-        bool vantage = false;
+        bool unrestricted = false;
         for (Vessel v = 1; v <= 2; ++v)
-            if (s.WeaponCount[11][v] > 0 && GetRank(c, v) == 100) vantage = true;
-        if (vantage)
+            if (s.WeaponCount[11][v] > 0 && GetRank(c, v) == 100) unrestricted = true;
+        if (unrestricted)
             ShowNote(note, kShuttleRankNote);
         else
             note.setVisible(false);
