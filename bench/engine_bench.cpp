@@ -4,7 +4,14 @@
 // combat settings and activated skills, so every factor, caption and tooltip
 // is worked out.
 
-#include "engine/calculator.h"
+#include "engine/arcs.h"
+#include "engine/burst.h"
+#include "engine/counting.h"
+#include "engine/dps.h"
+#include "engine/modifiers.h"
+#include "engine/power.h"
+#include "mainwindow/tooltips.h"
+#include "program/program.h"
 
 #include <benchmark/benchmark.h>
 
@@ -35,8 +42,8 @@ void Skills(Calculator& c, Vessel v) {
     k.Targets.setText("3");
 }
 
-std::unique_ptr<Calculator> HeavyCase() {
-    auto c = std::make_unique<Calculator>();
+std::unique_ptr<Program> HeavyCase() {
+    auto c = std::make_unique<Program>();
     c->state.Comparing = -1;
     VesselSettings& a = c->Alpha();
     a.RelativeDPS.setValue(0);
@@ -81,19 +88,15 @@ void NumbersOnly(benchmark::State& state) {
     CalculatorState& s = c->state;
     for (auto _ : state) {
         for (Vessel v = 1; v <= 2; ++v) {
-            auto n = [&](int slot) { return static_cast<int>(s.WeaponCount[slot][v]); };
-            const int power = GetPowerLevel(*c, v, true);
+            const int power = GetPowerLevel(*c, v, Bonus::With);
             const int distance = GetRange(*c, v);
             // As the recalculation does: the vessel's factors once, then the rows.
             const VesselFactors f = FactorsOf(*c, v);
-            s.ArcDPS[6][v] = CalculateBurst(*c, n(8), 0, n(3), n(5), n(11), v);
-            s.ArcDPS[7][v] = CalculateBurst(*c, n(9), n(10), 0, n(7), n(11), v);
-            s.ArcDPS[0][v] = CalculateDPS(*c, f, n(1), n(2), n(3), n(4), n(5), n(6), n(11), power, distance, v, false);
-            s.ArcDPS[1][v] = CalculateDPS(*c, f, 0, 0, n(3), n(4), n(5), n(6), n(11), power, distance, v, false);
-            s.ArcDPS[2][v] = CalculateDPS(*c, f, 0, 0, 0, n(4), n(5), n(6), n(11), power, distance, v, false);
-            s.ArcDPS[3][v] = CalculateDPS(*c, f, 0, 0, 0, n(4), n(5) + n(7), n(6), n(11), power, distance, v, false);
-            s.ArcDPS[4][v] = CalculateDPS(*c, f, 0, 0, 0, 0, n(5) + n(7), n(6), n(11), power, distance, v, false);
-            s.ArcDPS[5][v] = CalculateDPS(*c, f, 0, 0, 0, 0, n(7), n(6), n(11), power, distance, v, false);
+            s.ArcDPS[6][v] = CalculateBurst(*c, FrontBurstCounts(s, v), v);
+            s.ArcDPS[7][v] = CalculateBurst(*c, RearBurstCounts(s, v), v);
+            for (int row = 0; row <= 5; ++row)
+                s.ArcDPS[row][v] =
+                    CalculateDPS(*c, f, {RowCounts(s, v, row), power, distance}, v, SkillEffect::Counted);
         }
         benchmark::DoNotOptimize(s.ArcDPS[5][2]);
     }
@@ -103,14 +106,14 @@ BENCHMARK(NumbersOnly);
 void OneCalculateDPS(benchmark::State& state) {
     auto c = HeavyCase();
     for (auto _ : state)
-        benchmark::DoNotOptimize(CalculateDPS(*c, 1, 1, 1, 1, 2, 2, 0, 100, 0, 1, false));
+        benchmark::DoNotOptimize(CalculateDPS(*c, {{1, 1, 1, 1, 2, 2, 0}, 100, 0}, 1, SkillEffect::Counted));
 }
 BENCHMARK(OneCalculateDPS);
 
 void OneToolTip(benchmark::State& state) {
     auto c = HeavyCase();
     for (auto _ : state)
-        benchmark::DoNotOptimize(CalculateToolTip(*c, 1, 1, 1, 1, 2, 2, 0, 100, 0, 1));
+        benchmark::DoNotOptimize(CalculateToolTip(*c, {{1, 1, 1, 1, 2, 2, 0}, 100, 0}, 1));
 }
 BENCHMARK(OneToolTip);
 

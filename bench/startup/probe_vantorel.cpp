@@ -2,13 +2,13 @@
 
 #include "first_paint.h"
 
-#include "engine/calculator.h"
 #include "mainwindow/layout.h"
 #include "mainwindow/view/mainwindow.h"
+#include "program/program.h"
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
-    vantorel::Calculator calculator;
+    vantorel::Program calculator;
     vantorel::MainWindow window(calculator);
     FirstPaint painted(window);
     vantorel::ShowMainWindowAtStart(calculator);

@@ -1,6 +1,13 @@
-#include "catalogue/classes.h"
-#include "engine/calculator.h"
+#include "catalogue/cascade.h"
+
+#include "catalogue/pictures.h"
+#include "catalogue/ports.h"
+#include "catalogue/ships.h"
+#include "engine/arcs.h"
+#include "engine/modifiers.h"
 #include "engine/numbers.h"
+#include "engine/power.h"
+#include "engine/selection.h"
 
 #include <string>
 #include <utility>
@@ -127,7 +134,7 @@ void ShipControl(Calculator& c) {
         const Ports ports = ShipPorts(c, v);
         WeaponAdd(c, ports.list, v);
         WeaponUnlock(c, ports.forward, ports.rear, v);
-        CalculatePower(c, v, false);
+        CalculatePower(c, v, Rebuild::IfChanged);
     }
     ShipImageControl(c);
     if (!RelativeMode(c)) {

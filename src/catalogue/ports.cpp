@@ -1,4 +1,6 @@
-#include "engine/calculator.h"
+#include "catalogue/ports.h"
+
+#include "engine/selection.h"
 
 #include <string>
 #include <string_view>
@@ -8,10 +10,6 @@
 namespace vantorel {
 
 namespace {
-
-constexpr const char* kEnergyWords[6] = {"Phaser ", "Disruptor ", "Plasma ", "Tetryon ", "Polaron ", "Antiproton "};
-constexpr const char* kProjectileWords[6] = {"Photon ",    "Quantum ",     "Plasma ",
-                                             "Chroniton ", "Transphasic ", "Tricobalt "};
 
 bool StartsWith(std::string_view s, std::string_view head) { return s.substr(0, head.size()) == head; }
 
@@ -64,18 +62,9 @@ std::string RecomposeRear(const std::string& t, const std::string& e, const std:
 
 } // namespace
 
-std::string GetDamageType(const Calculator& c, Vessel v, int group) {
-    // Relative DPS measures every energy weapon against one untyped beam
-    // array; projectiles keep their type.
-    if (group == 1 && RelativeMode(c)) return {};
-    const int index = c.settings[v].WeaponType[group].index();
-    if (index < 0 || index > 5) return {};
-    return group == 1 ? kEnergyWords[index] : kProjectileWords[index];
-}
-
 void WeaponAdd(Calculator& c, int list, Vessel v) {
-    const std::string e = GetDamageType(c, v, 1);
-    const std::string p = GetDamageType(c, v, 2);
+    const std::string e = GetDamageType(c, v, DamageGroup::Energy);
+    const std::string p = GetDamageType(c, v, DamageGroup::Projectile);
     for (int i = 1; i <= 4; ++i) {
         List& f = ForwardPort(c, v, i);
         List& r = RearPort(c, v, i);

@@ -1,5 +1,6 @@
-#include "catalogue/classes.h"
-#include "engine/calculator.h"
+#include "catalogue/ships.h"
+
+#include "engine/selection.h"
 
 #include <iterator>
 #include <string>

@@ -1,8 +1,8 @@
 #include "cli/script.h"
 
 #include "cli/json.h"
-#include "engine/calculator.h"
-#include "engine/registry.h"
+#include "program/program.h"
+#include "program/registry.h"
 
 #include <algorithm>
 #include <charconv>
@@ -419,7 +419,7 @@ class Runner {
 } // namespace
 
 int RunScript(const std::string& script, std::ostream& out, std::ostream& err) {
-    Calculator calculator;
+    Program calculator;
     return RunScript(calculator, script, out, err);
 }
 

@@ -1,5 +1,10 @@
-#include "engine/calculator.h"
+#include "engine/burst.h"
+
+#include "engine/dps.h"
+#include "engine/modifiers.h"
 #include "engine/numbers.h"
+#include "engine/power.h"
+#include "engine/selection.h"
 
 #include <algorithm>
 #include <string_view>
@@ -24,7 +29,7 @@ float MineFactor(int level) { return level >= 0 && level <= 3 ? kMineFactor[leve
 
 // The torpedo type without its trailing blank: "Quantum", "Plasma", ...
 std::string TorpedoType(const Calculator& c, Vessel v) {
-    std::string type = GetDamageType(c, v, 2);
+    std::string type = GetDamageType(c, v, DamageGroup::Projectile);
     while (!type.empty() && type.back() == ' ')
         type.pop_back();
     return type;
@@ -32,19 +37,24 @@ std::string TorpedoType(const Calculator& c, Vessel v) {
 
 // The one weapon that overloads: the first present of dual beam bank, beam
 // array, shuttle beam array. 0 for none.
-int OverloadWeapon(int dualBeamBanks, int beamArrays, int shuttleBeamArrays) {
-    if (dualBeamBanks > 0) return 1;
-    if (beamArrays > 0) return 2;
-    if (shuttleBeamArrays > 0) return 3;
+int OverloadWeapon(const BurstCounts& n) {
+    if (n.dualBeamBanks > 0) return 1;
+    if (n.beamArrays > 0) return 2;
+    if (n.shuttleBeamArrays > 0) return 3;
     return 0;
 }
 
 // Overload term before the last rounding: the plain DPS of that one weapon.
 float OverloadTerm(Calculator& c, int weapon, Vessel v) {
-    const int power = GetPowerLevel(c, v, true);
+    const int power = GetPowerLevel(c, v, Bonus::With);
     const int distance = GetRange(c, v);
-    const float dps = CalculateDPS(c, 0, 0, weapon == 1 ? 1 : 0, 0, weapon == 2 ? 1 : 0, 0, weapon == 3 ? 1 : 0, power,
-                                   distance, v, true);
+    FiringSet one;
+    one.weapons.dualBeamBanks = weapon == 1 ? 1 : 0;
+    one.weapons.beamArrays = weapon == 2 ? 1 : 0;
+    one.weapons.shuttleBeamArrays = weapon == 3 ? 1 : 0;
+    one.power = power;
+    one.distance = distance;
+    const float dps = CalculateDPS(c, one, v, SkillEffect::Ignored);
     const CalculatorState& s = c.state;
     const float factor = kOverloadFactor[std::clamp<int>(s.BeamOverload[v], 0, 3)];
     // Applied a second time on purpose: the weapon's DPS holds both already.
@@ -100,13 +110,12 @@ float GetTorpedoSkill(const Calculator& c, Vessel v) {
     return 1.0f;
 }
 
-float CalculateBurst(Calculator& c, int torpedoes, int mines, int dualBeamBanks, int beamArrays, int shuttleBeamArrays,
-                     Vessel v) {
+float CalculateBurst(Calculator& c, const BurstCounts& n, Vessel v) {
     const CalculatorState& s = c.state;
     float sum = 0.0f;
-    const float critical = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
+    const float critical = CriticalMultiplier(c, v, Severity::Plain, 0.0f, 0.0f);
 
-    if (torpedoes > 0) {
+    if (n.torpedoes > 0) {
         const float t = TorpedoSkillOrOne(c, v);
         float f = 1.0f;
         if (TorpedoType(c, v) == "Plasma")
@@ -116,26 +125,25 @@ float CalculateBurst(Calculator& c, int torpedoes, int mines, int dualBeamBanks,
         else
             sum = t * s.TorpedoDamage[v] * critical * f * s.ResistanceFactor[v] * s.AccuracyFactor[v];
     }
-    if (mines > 0) sum += MineTerm(c, critical, v);
+    if (n.mines > 0) sum += MineTerm(c, critical, v);
     if (s.BeamOverload[v] > 0) {
-        const int weapon = OverloadWeapon(dualBeamBanks, beamArrays, shuttleBeamArrays);
+        const int weapon = OverloadWeapon(n);
         if (weapon != 0) sum += OverloadTerm(c, weapon, v);
     }
     return Round(sum, 3);
 }
 
-std::string BurstToolTip(Calculator& c, int torpedoes, int mines, int dualBeamBanks, int beamArrays,
-                         int shuttleBeamArrays, Vessel v) {
+std::string BurstToolTip(Calculator& c, const BurstCounts& n, Vessel v) {
     const CalculatorState& s = c.state;
-    const float critical = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
+    const float critical = CriticalMultiplier(c, v, Severity::Plain, 0.0f, 0.0f);
     std::string text;
     auto append = [&text](const std::string& part) {
         if (!text.empty()) text += ", ";
         text += part;
     };
 
-    if (torpedoes > 0) {
-        const std::string prefix = GetDamageType(c, v, 2);
+    if (n.torpedoes > 0) {
+        const std::string prefix = GetDamageType(c, v, DamageGroup::Projectile);
         const bool plasma = TorpedoType(c, v) == "Plasma";
         const float t = TorpedoSkillOrOne(c, v);
         float d = RelativeMode(c) ? Round(BaseProjectileDamage(c, v) * t * critical, 3)
@@ -170,7 +178,7 @@ std::string BurstToolTip(Calculator& c, int torpedoes, int mines, int dualBeamBa
         append(part);
     }
 
-    if (mines > 0) {
+    if (n.mines > 0) {
         const int level = s.MineSkill[v];
         const std::string name = level > 0 ? "Mine Dispersal Pattern" + SignedText(level) + ":" : "Mine Cluster:";
         append(name + SignedText(MineTerm(c, critical, v)));
@@ -178,7 +186,7 @@ std::string BurstToolTip(Calculator& c, int torpedoes, int mines, int dualBeamBa
 
     const int overload = s.BeamOverload[v];
     if (overload > 0) {
-        const int weapon = OverloadWeapon(dualBeamBanks, beamArrays, shuttleBeamArrays);
+        const int weapon = OverloadWeapon(n);
         static const char* const kNames[4] = {"", "Dual Beam Bank Overload", "Beam Array Overload",
                                               "Shuttle Beam Array Overload"};
         if (weapon != 0)

@@ -1,5 +1,9 @@
-#include "engine/calculator.h"
+#include "engine/combat.h"
+
+#include "engine/arcs.h"
+#include "engine/dps.h"
 #include "engine/numbers.h"
+#include "engine/selection.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,25 +1,14 @@
-#include "engine/calculator.h"
+#include "engine/counting.h"
+
+#include "engine/selection.h"
 
 #include <array>
+#include <string>
 #include <utility>
 
 namespace vantorel {
 
 namespace {
-
-enum Slot {
-    DualHeavyCannons = 1,
-    DualCannons = 2,
-    DualBeamBanks = 3,
-    Cannons = 4,
-    ForwardBeamArrays = 5,
-    Turrets = 6,
-    RearBeamArrays = 7,
-    ForwardTorpedoes = 8,
-    RearTorpedoes = 9,
-    Mines = 10,
-    ShuttleBeamArrays = 11,
-};
 
 // The item texts carry the damage type of the vessel, so a port only counts
 // while its text matches the vessel's current types exactly. The texts are
@@ -30,31 +19,34 @@ struct ItemNames {
 };
 
 ItemNames NamesOf(const Calculator& c, Vessel v) {
-    const std::string e = GetDamageType(c, v, 1);
-    const std::string p = GetDamageType(c, v, 2);
+    const std::string e = GetDamageType(c, v, DamageGroup::Energy);
+    const std::string p = GetDamageType(c, v, DamageGroup::Projectile);
     return ItemNames{{{
-                         {DualHeavyCannons, e + "Dual Heavy Cannons"},
-                         {DualCannons, e + "Dual Cannons"},
-                         {DualBeamBanks, "Dual " + e + "Beam Bank"},
-                         {Cannons, e + "Cannon"},
-                         {ForwardBeamArrays, e + "Beam Array"},
-                         {Turrets, e + "Turret"},
-                         {ForwardTorpedoes, p + "Torpedo Launcher"},
-                         {ShuttleBeamArrays, "Shuttle " + e + "Beam Array"},
+                         {Slot::DualHeavyCannons, e + "Dual Heavy Cannons"},
+                         {Slot::DualCannons, e + "Dual Cannons"},
+                         {Slot::DualBeamBanks, "Dual " + e + "Beam Bank"},
+                         {Slot::Cannons, e + "Cannon"},
+                         {Slot::ForwardBeamArrays, e + "Beam Array"},
+                         {Slot::Turrets, e + "Turret"},
+                         {Slot::ForwardTorpedoes, p + "Torpedo Launcher"},
+                         {Slot::ShuttleBeamArrays, "Shuttle " + e + "Beam Array"},
                      }},
                      {{
-                         {RearBeamArrays, e + "Beam Array"},
-                         {Turrets, e + "Turret"},
-                         {RearTorpedoes, p + "Torpedo Launcher"},
-                         {Mines, p + "Mine Launcher"},
+                         {Slot::RearBeamArrays, e + "Beam Array"},
+                         {Slot::Turrets, e + "Turret"},
+                         {Slot::RearTorpedoes, p + "Torpedo Launcher"},
+                         {Slot::Mines, p + "Mine Launcher"},
                      }}};
 }
 
-template <std::size_t N> int SlotOf(const std::string& text, const std::array<std::pair<Slot, std::string>, N>& order) {
+template <std::size_t N>
+const Slot* SlotOf(const std::string& text, const std::array<std::pair<Slot, std::string>, N>& order) {
     for (const auto& [slot, name] : order)
-        if (text == name) return slot;
-    return 0;
+        if (text == name) return &slot;
+    return nullptr;
 }
+
+int Count(const CalculatorState& s, Slot slot, Vessel v) { return s.WeaponCount[slot][v]; }
 
 } // namespace
 
@@ -66,8 +58,8 @@ void CountWeapons(Calculator& c) {
 
     const ItemNames alpha = NamesOf(c, 1);
     const ItemNames omega = NamesOf(c, 2);
-    auto add = [&s](int slot, Vessel v) {
-        if (slot > 0) ++s.WeaponCount[slot][v];
+    auto add = [&s](const Slot* slot, Vessel v) {
+        if (slot) ++s.WeaponCount[*slot][v];
     };
     for (int i = 1; i <= 4; ++i) {
         add(SlotOf(c.main.Forward[i].text(), alpha.forward), 1);
@@ -75,6 +67,60 @@ void CountWeapons(Calculator& c) {
         add(SlotOf(c.main.Rear[i].text(), alpha.rear), 1);
         add(SlotOf(c.main.CRear[i].text(), omega.rear), 2);
     }
+}
+
+WeaponCounts RowCounts(const CalculatorState& s, Vessel v, int row) {
+    auto n = [&](Slot slot) { return Count(s, slot, v); };
+    WeaponCounts r;
+    r.turrets = n(Slot::Turrets);
+    r.shuttleBeamArrays = n(Slot::ShuttleBeamArrays);
+    switch (row) {
+    case 0:
+        r.dualHeavyCannons = n(Slot::DualHeavyCannons);
+        r.dualCannons = n(Slot::DualCannons);
+        r.dualBeamBanks = n(Slot::DualBeamBanks);
+        r.cannons = n(Slot::Cannons);
+        r.beamArrays = n(Slot::ForwardBeamArrays);
+        break;
+    case 1:
+        r.dualBeamBanks = n(Slot::DualBeamBanks);
+        r.cannons = n(Slot::Cannons);
+        r.beamArrays = n(Slot::ForwardBeamArrays);
+        break;
+    case 2:
+        r.cannons = n(Slot::Cannons);
+        r.beamArrays = n(Slot::ForwardBeamArrays);
+        break;
+    case 3:
+        r.cannons = n(Slot::Cannons);
+        r.beamArrays = n(Slot::ForwardBeamArrays) + n(Slot::RearBeamArrays);
+        break;
+    case 4:
+        r.beamArrays = n(Slot::ForwardBeamArrays) + n(Slot::RearBeamArrays);
+        break;
+    default:
+        r.beamArrays = n(Slot::RearBeamArrays);
+        break;
+    }
+    return r;
+}
+
+BurstCounts FrontBurstCounts(const CalculatorState& s, Vessel v) {
+    BurstCounts b;
+    b.torpedoes = Count(s, Slot::ForwardTorpedoes, v);
+    b.dualBeamBanks = Count(s, Slot::DualBeamBanks, v);
+    b.beamArrays = Count(s, Slot::ForwardBeamArrays, v);
+    b.shuttleBeamArrays = Count(s, Slot::ShuttleBeamArrays, v);
+    return b;
+}
+
+BurstCounts RearBurstCounts(const CalculatorState& s, Vessel v) {
+    BurstCounts b;
+    b.torpedoes = Count(s, Slot::RearTorpedoes, v);
+    b.mines = Count(s, Slot::Mines, v);
+    b.beamArrays = Count(s, Slot::RearBeamArrays, v);
+    b.shuttleBeamArrays = Count(s, Slot::ShuttleBeamArrays, v);
+    return b;
 }
 
 } // namespace vantorel

@@ -1,6 +1,10 @@
-#include "engine/calculator.h"
+#include "engine/dps.h"
 
+#include "engine/combat.h"
+#include "engine/dpw.h"
+#include "engine/marks.h"
 #include "engine/numbers.h"
+#include "engine/selection.h"
 
 #include <algorithm>
 #include <type_traits>
@@ -61,9 +65,9 @@ T SumOfTerms(const CalculatorState& s, const WeaponTerms& terms, int power, int 
 
 } // namespace
 
-float GetRangeMod(int distance, int group) {
+float GetRangeMod(int distance, RangeGroup group) {
     const int d = std::clamp(distance, 0, 9);
-    return group == 1 ? kBeamRange[d] : kCannonRange[d];
+    return group == RangeGroup::Beams ? kBeamRange[d] : kCannonRange[d];
 }
 
 float BeamSkillModifier(const Calculator& c, Vessel v) {
@@ -75,7 +79,7 @@ float BeamSkillModifier(const Calculator& c, Vessel v) {
     return factor;
 }
 
-float CannonSkillModifier(const Calculator& c, Vessel v, bool turret) {
+float CannonSkillModifier(const Calculator& c, Vessel v, CannonMount mount) {
     static constexpr float kRapid[3] = {1.3f, 1.4f, 1.5f};
     static constexpr float kScatter[3] = {1.15f, 1.2f, 1.25f};
     static constexpr float kScatterTurret[3] = {1.168f, 1.45f, 1.733f};
@@ -84,7 +88,7 @@ float CannonSkillModifier(const Calculator& c, Vessel v, bool turret) {
     const int scatter = c.state.ScatterVolley[v];
     if (scatter >= 1) {
         const int level = std::min(scatter, 3) - 1;
-        const float factor = turret ? kScatterTurret[level] : kScatter[level];
+        const float factor = mount == CannonMount::Turret ? kScatterTurret[level] : kScatter[level];
         const int targets = std::min<int>(c.state.SkillTargets[v], 3);
         return factor * static_cast<float>(targets);
     }
@@ -96,7 +100,7 @@ float SkillPoints(int table, int level) {
     return kSkillPoints[std::min(table, 3) - 1][level - 1];
 }
 
-float CriticalMultiplier(const Calculator& c, Vessel v, bool boosted, float chance, float severity) {
+float CriticalMultiplier(const Calculator& c, Vessel v, Severity boost, float chance, float severity) {
     const VesselSettings& set = c.settings[v];
     float ch;
     float sev;
@@ -114,7 +118,7 @@ float CriticalMultiplier(const Calculator& c, Vessel v, bool boosted, float chan
         ch = 0.045f;
         sev = 0.75f;
     }
-    if (boosted) sev += 0.1f;
+    if (boost == Severity::Boosted) sev += 0.1f;
 
     const float excess = c.state.ExcessAccuracy[v];
     ch += excess / 1000.0f;
@@ -167,61 +171,59 @@ int GetRange(const Calculator& c, Vessel v) {
 VesselFactors FactorsOf(const Calculator& c, Vessel v) {
     VesselFactors f;
     f.beamSkill = BeamSkillModifier(c, v);
-    f.cannonSkill = CannonSkillModifier(c, v, false);
-    f.turretSkill = CannonSkillModifier(c, v, true);
-    f.critical = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
-    f.criticalBoosted = CriticalMultiplier(c, v, true, 0.0f, 0.0f);
+    f.cannonSkill = CannonSkillModifier(c, v, CannonMount::Fixed);
+    f.turretSkill = CannonSkillModifier(c, v, CannonMount::Turret);
+    f.critical = CriticalMultiplier(c, v, Severity::Plain, 0.0f, 0.0f);
+    f.criticalBoosted = CriticalMultiplier(c, v, Severity::Boosted, 0.0f, 0.0f);
     return f;
 }
 
-float CalculateDPS(Calculator& c, int dualHeavyCannons, int dualCannons, int dualBeamBanks, int cannons, int beamArrays,
-                   int turrets, int shuttleBeamArrays, int power, int distance, Vessel v, bool noSkills) {
+float CalculateDPS(Calculator& c, const FiringSet& set, Vessel v, SkillEffect skills) {
     // Only the factors that a weapon in the set asks for: a lone overloading
     // beam, the most frequent single call, needs neither cannon factor.
-    const bool anyCannon = dualHeavyCannons + dualCannons + cannons > 0;
+    const WeaponCounts& n = set.weapons;
     VesselFactors f;
-    if (!noSkills) {
-        if (dualBeamBanks + beamArrays + shuttleBeamArrays > 0) f.beamSkill = BeamSkillModifier(c, v);
-        if (anyCannon) f.cannonSkill = CannonSkillModifier(c, v, false);
-        if (turrets > 0) f.turretSkill = CannonSkillModifier(c, v, true);
+    if (skills == SkillEffect::Counted) {
+        if (n.dualBeamBanks + n.beamArrays + n.shuttleBeamArrays > 0) f.beamSkill = BeamSkillModifier(c, v);
+        if (n.dualHeavyCannons + n.dualCannons + n.cannons > 0)
+            f.cannonSkill = CannonSkillModifier(c, v, CannonMount::Fixed);
+        if (n.turrets > 0) f.turretSkill = CannonSkillModifier(c, v, CannonMount::Turret);
     }
-    if (dualCannons + dualBeamBanks + cannons + beamArrays + turrets + shuttleBeamArrays > 0)
-        f.critical = CriticalMultiplier(c, v, false, 0.0f, 0.0f);
-    if (dualHeavyCannons > 0) f.criticalBoosted = CriticalMultiplier(c, v, true, 0.0f, 0.0f);
-    return CalculateDPS(c, f, dualHeavyCannons, dualCannons, dualBeamBanks, cannons, beamArrays, turrets,
-                        shuttleBeamArrays, power, distance, v, noSkills);
+    if (n.dualCannons + n.dualBeamBanks + n.cannons + n.beamArrays + n.turrets + n.shuttleBeamArrays > 0)
+        f.critical = CriticalMultiplier(c, v, Severity::Plain, 0.0f, 0.0f);
+    if (n.dualHeavyCannons > 0) f.criticalBoosted = CriticalMultiplier(c, v, Severity::Boosted, 0.0f, 0.0f);
+    return CalculateDPS(c, f, set, v, skills);
 }
 
-WeaponTerms TermsOf(const Calculator& c, const VesselFactors& f, int dualHeavyCannons, int dualCannons,
-                    int dualBeamBanks, int cannons, int beamArrays, int turrets, int shuttleBeamArrays, int distance,
-                    Vessel v, bool noSkills) {
-    const float beamSkill = noSkills ? 1.0f : f.beamSkill;
-    const float cannonSkill = noSkills ? 1.0f : f.cannonSkill;
-    const float turretSkill = noSkills ? 1.0f : f.turretSkill;
-    const float beamRange = GetRangeMod(distance, 1);
-    const float cannonRange = GetRangeMod(distance, 2);
+WeaponTerms TermsOf(const Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v, SkillEffect skills) {
+    const WeaponCounts& n = set.weapons;
+    const int distance = set.distance;
+    const bool counted = skills == SkillEffect::Counted;
+    const float beamSkill = counted ? f.beamSkill : 1.0f;
+    const float cannonSkill = counted ? f.cannonSkill : 1.0f;
+    const float turretSkill = counted ? f.turretSkill : 1.0f;
+    const float beamRange = GetRangeMod(distance, RangeGroup::Beams);
+    const float cannonRange = GetRangeMod(distance, RangeGroup::Cannons);
     const float cannonMod = c.state.CannonModifier[v];
     const float beamMod = c.state.BeamModifier[v];
     // A shuttle array is read as a Beam Array and scaled to its own damage.
-    const float shuttleMod = shuttleBeamArrays > 0 ? ShuttleArrayModifier(c, v, shuttleBeamArrays) : 0.0f;
+    const float shuttleMod = n.shuttleBeamArrays > 0 ? ShuttleArrayModifier(c, v, n.shuttleBeamArrays) : 0.0f;
     return {{
-        {dualHeavyCannons, 1, false, cannonRange, cannonSkill, cannonMod, true},
-        {dualCannons, 2, false, cannonRange, cannonSkill, cannonMod, false},
-        {dualBeamBanks, 3, true, beamRange, beamSkill, beamMod, false},
-        {cannons, 4, false, cannonRange, cannonSkill, cannonMod, false},
-        {beamArrays, 5, true, beamRange, beamSkill, beamMod, false},
-        {turrets, 6, false, cannonRange, turretSkill, cannonMod, false},
-        {shuttleBeamArrays, 5, true, beamRange, beamSkill, shuttleMod, false},
+        {n.dualHeavyCannons, 1, false, cannonRange, cannonSkill, cannonMod, true},
+        {n.dualCannons, 2, false, cannonRange, cannonSkill, cannonMod, false},
+        {n.dualBeamBanks, 3, true, beamRange, beamSkill, beamMod, false},
+        {n.cannons, 4, false, cannonRange, cannonSkill, cannonMod, false},
+        {n.beamArrays, 5, true, beamRange, beamSkill, beamMod, false},
+        {n.turrets, 6, false, cannonRange, turretSkill, cannonMod, false},
+        {n.shuttleBeamArrays, 5, true, beamRange, beamSkill, shuttleMod, false},
     }};
 }
 
-float CalculateDPS(Calculator& c, const VesselFactors& f, int dualHeavyCannons, int dualCannons, int dualBeamBanks,
-                   int cannons, int beamArrays, int turrets, int shuttleBeamArrays, int power, int distance, Vessel v,
-                   bool noSkills) {
-    const WeaponTerms terms = TermsOf(c, f, dualHeavyCannons, dualCannons, dualBeamBanks, cannons, beamArrays, turrets,
-                                      shuttleBeamArrays, distance, v, noSkills);
-    const int total =
-        dualHeavyCannons + dualCannons + dualBeamBanks + cannons + beamArrays + turrets + shuttleBeamArrays;
+float CalculateDPS(Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v, SkillEffect skills) {
+    const WeaponTerms terms = TermsOf(c, f, set, v, skills);
+    const WeaponCounts& counts = set.weapons;
+    const int power = set.power;
+    const int total = counts.total();
 
     float crit = f.critical;
     float critBoosted = f.criticalBoosted;
@@ -241,7 +243,7 @@ float CalculateDPS(Calculator& c, const VesselFactors& f, int dualHeavyCannons, 
     }
 
     // No test ever fired dual cannons of either kind among eight weapons.
-    if (total > 7 && (dualHeavyCannons > 0 || dualCannons > 0)) return -1.0f;
+    if (total > 7 && (counts.dualHeavyCannons > 0 || counts.dualCannons > 0)) return -1.0f;
     return result;
 }
 

@@ -1,4 +1,4 @@
-#include "engine/calculator.h"
+#include "engine/dpw.h"
 
 #include "engine/numbers.h"
 

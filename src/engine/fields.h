@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -128,7 +129,8 @@ class Text : public Control {
 // A list: rows of text, a selected index (-1 for none) and the text of the
 // selection. A list with typing also holds a free text that need not be a row.
 // Its handler is the click on a row; it does nothing while the list is
-// disabled.
+// disabled, unless the list is one whose handler runs whatever its state
+// (`setRunsWhenDisabled`): such a list's handler checks the state itself.
 class List : public Control {
   public:
     List() = default;
@@ -202,18 +204,22 @@ class List : public Control {
     const std::string& tooltip() const { return m_tooltip; }
     void setTooltip(std::string s) { update(m_tooltip, std::move(s)); }
 
+    bool runsWhenDisabled() const { return m_runsWhenDisabled; }
+    void setRunsWhenDisabled(bool on) { m_runsWhenDisabled = on; }
+
   private:
     void select(int i) {
         m_index = i;
         m_text = i >= 0 ? m_rows[static_cast<std::size_t>(i)] : std::string();
         changed();
-        if (enabled()) runHandler();
+        if (enabled() || m_runsWhenDisabled) runHandler();
     }
 
     std::vector<std::string> m_rows;
     int m_index = -1;
     std::string m_text;
     bool m_typing = false;
+    bool m_runsWhenDisabled = false;
     std::string m_tooltip;
 };
 
@@ -273,7 +279,9 @@ class Line : public Control {
 };
 
 // A scroll bar: value 0 .. maximum, with small and large steps. Its handler
-// runs when the value changes.
+// runs when the value changes. A value outside the bar's range is brought to
+// its nearer end, as a bar's thumb cannot leave its track; a negative maximum
+// (a page smaller than its window) leaves only 0.
 class ScrollBar : public Control {
   public:
     int value() const { return m_value; }
@@ -281,6 +289,7 @@ class ScrollBar : public Control {
     int smallStep() const { return m_small; }
     int largeStep() const { return m_large; }
     void setValue(int v) {
+        v = v < 0 ? 0 : v > m_maximum ? (m_maximum > 0 ? m_maximum : 0) : v;
         if (v == m_value) return;
         m_value = v;
         changed();
@@ -311,6 +320,12 @@ template <typename T, int First, int Last> struct Indexed {
 
     T& operator[](int i) { return items.at(static_cast<std::size_t>(i - First)); }
     const T& operator[](int i) const { return items.at(static_cast<std::size_t>(i - First)); }
+    // An array indexed by a named code, such as WeaponCount by Slot.
+    template <typename E>
+    requires std::is_enum_v<E> T& operator[](E e) { return (*this)[static_cast<int>(e)]; }
+    template <typename E>
+    requires std::is_enum_v<E>
+    const T& operator[](E e) const { return (*this)[static_cast<int>(e)]; }
 };
 
 // Per-vessel arrays of plain values: [1] Alpha, [2] Omega.

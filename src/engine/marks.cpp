@@ -1,4 +1,6 @@
-#include "engine/calculator.h"
+#include "engine/marks.h"
+
+#include "engine/selection.h"
 
 #include <algorithm>
 
@@ -14,6 +16,14 @@ constexpr float kShuttleRankFactor[9] = {0.0f,     0.62918f, 0.66025f, 0.68402f,
 
 // The scale of one weapon mark in the damage of a beam array.
 constexpr float kMarkScale = 0.8889786f;
+
+// The rare shuttle array adds 2% critical chance, shared by the arrays.
+PartialCritical RareArrayBonus(int count) {
+    PartialCritical b;
+    b.chance = 0.02f;
+    b.weapons = count;
+    return b;
+}
 
 } // namespace
 
@@ -81,7 +91,7 @@ float ShuttleArrayModifier(const Calculator& c, Vessel v, int count) {
         m = m + (GetRankMark(c, v) * 8.0f / 50.0f) * kMarkScale;
         if (rare) {
             m = m + (7.2 / 50 * 0.8889786005020142) / count;
-            m = m * PartialCriticalBonus(c, v, false, 0.02f, 0.0f, 1.0f, count);
+            m = m * PartialCriticalBonus(c, v, RareArrayBonus(count));
         }
         return static_cast<float>(m * 0.76);
     }
@@ -101,15 +111,14 @@ float ShuttleArrayModifier(const Calculator& c, Vessel v, int count) {
     // From Rear Admiral on, a rank has five grades instead of ten.
     if (rank >= 5) increment = increment * 2.0f;
     float modifier = low + increment * static_cast<float>(step);
-    if (rare) modifier = modifier * PartialCriticalBonus(c, v, false, 0.02f, 0.0f, 1.0f, count);
+    if (rare) modifier = modifier * PartialCriticalBonus(c, v, RareArrayBonus(count));
     return modifier;
 }
 
-float PartialCriticalBonus(const Calculator& c, Vessel v, bool boosted, float chance, float severity, float share,
-                           int weapons) {
-    const float with = CriticalMultiplier(c, v, boosted, chance, severity);
-    const float without = CriticalMultiplier(c, v, boosted, 0.0f, 0.0f);
-    return ((with / without - 1.0f) * share / static_cast<float>(weapons)) + 1.0f;
+float PartialCriticalBonus(const Calculator& c, Vessel v, const PartialCritical& bonus) {
+    const float with = CriticalMultiplier(c, v, bonus.boost, bonus.chance, bonus.severity);
+    const float without = CriticalMultiplier(c, v, bonus.boost, 0.0f, 0.0f);
+    return ((with / without - 1.0f) * bonus.share / static_cast<float>(bonus.weapons)) + 1.0f;
 }
 
 } // namespace vantorel

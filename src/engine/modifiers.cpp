@@ -1,5 +1,12 @@
-#include "engine/calculator.h"
+#include "engine/modifiers.h"
+
+#include "engine/arcs.h"
+#include "engine/combat.h"
+#include "engine/dps.h"
+#include "engine/marks.h"
 #include "engine/numbers.h"
+#include "engine/power.h"
+#include "engine/selection.h"
 
 #include <algorithm>
 #include <cmath>
@@ -70,7 +77,8 @@ void FillBox(Label& box, float total, F f, const Pieces<T>& p, const BreakdownIn
 
 } // namespace
 
-float WeaponSkillBonus(const Calculator& c, int kind, Vessel v) {
+float WeaponSkillBonus(const Calculator& c, BonusKind bonusKind, Vessel v) {
+    const int kind = static_cast<int>(bonusKind);
     // Per kind: the Lieutenant, Commander and Lieutenant Commander skill boxes.
     static constexpr int kFields[5][3] = {{0, 0, 0}, {1, 4, 2}, {1, 4, 3}, {5, 8, 7}, {5, 8, 6}};
     if (kind < 1 || kind > 4) return 0.0f;
@@ -80,7 +88,8 @@ float WeaponSkillBonus(const Calculator& c, int kind, Vessel v) {
            SkillPoints(2, TruncatedLevel(skill[kFields[kind][2]]));
 }
 
-float ConsoleBonus(const Calculator& c, int kind, Vessel v) {
+float ConsoleBonus(const Calculator& c, BonusKind bonusKind, Vessel v) {
+    const int kind = static_cast<int>(bonusKind);
     // Per kind: the console for that weapon and the one for its damage type.
     static constexpr int kConsoles[5][2] = {{-2, -2}, {1, 3}, {2, 3}, {4, 6}, {5, 6}};
     if (kind < 1 || kind > 4) return 0.0f;
@@ -105,25 +114,6 @@ float BaseProjectileDamage(const Calculator& c, Vessel v) {
     const int type = c.settings[v].WeaponType[2].index();
     if (type < 0 || type > 5) return 0.0f;
     return RelativeMode(c) ? kRelative[type] : kActual[type];
-}
-
-void ResetModifier(Calculator& c) {
-    for (Vessel v = 1; v <= 2; ++v) {
-        CalculatorState& s = c.state;
-        s.BeamModifier[v] = 1.0f;
-        s.CannonModifier[v] = 1.0f;
-        s.TorpedoDamage[v] = 1.0f;
-        s.MineDamage[v] = 1.0f;
-        for (int i = 1; i <= 7; ++i) {
-            c.settings[v].CalculatedWeaponDPS[i].setCaption("");
-            c.settings[v].CalculatedWeaponDPS[i].setTooltip("");
-        }
-    }
-    c.Alpha().MatchConsole.setValue(1);
-    for (Vessel v = 1; v <= 2; ++v)
-        for (int i = 1; i <= 4; ++i)
-            c.settings[v].TacticalConsoleEquipped[i].setValue(1);
-    ShipControl(c);
 }
 
 void ModifiedDPS(Calculator& c, Vessel v) {
@@ -160,14 +150,14 @@ void ModifiedDPS(Calculator& c, Vessel v) {
     float alphaEnergy = static_cast<float>(alphaFraction * 80);
     float omegaEnergy = static_cast<float>(omegaFraction * 80);
 
-    float skillBeam = static_cast<float>(WeaponSkillBonus(c, 1, v) * 0.8);
-    float consoleBeam = static_cast<float>(ConsoleBonus(c, 1, v) * 0.8);
-    float skillCannon = static_cast<float>(WeaponSkillBonus(c, 2, v) * 0.8);
-    float consoleCannon = static_cast<float>(ConsoleBonus(c, 2, v) * 0.8);
-    float skillTorpedo = WeaponSkillBonus(c, 3, v);
-    float consoleTorpedo = ConsoleBonus(c, 3, v);
-    float skillMine = WeaponSkillBonus(c, 4, v);
-    float consoleMine = ConsoleBonus(c, 4, v);
+    float skillBeam = static_cast<float>(WeaponSkillBonus(c, BonusKind::Beams, v) * 0.8);
+    float consoleBeam = static_cast<float>(ConsoleBonus(c, BonusKind::Beams, v) * 0.8);
+    float skillCannon = static_cast<float>(WeaponSkillBonus(c, BonusKind::Cannons, v) * 0.8);
+    float consoleCannon = static_cast<float>(ConsoleBonus(c, BonusKind::Cannons, v) * 0.8);
+    float skillTorpedo = WeaponSkillBonus(c, BonusKind::Torpedoes, v);
+    float consoleTorpedo = ConsoleBonus(c, BonusKind::Torpedoes, v);
+    float skillMine = WeaponSkillBonus(c, BonusKind::Mines, v);
+    float consoleMine = ConsoleBonus(c, BonusKind::Mines, v);
 
     const int mark = GetMark(c, v);
 
@@ -227,7 +217,7 @@ void ModifiedDPS(Calculator& c, Vessel v) {
 
     // What the game's tooltip shows depends on weapon power; the modifiers
     // above do not, since the DPW curves carry the power already.
-    const int power = GetPowerLevel(c, v, true);
+    const int power = GetPowerLevel(c, v, Bonus::With);
     for (float* value : {&base, &energyAccolade, &markBonus, &skillBeam, &consoleBeam, &skillCannon, &consoleCannon,
                          &teamEnergy, &beamTotal, &cannonTotal, &damageBonus, &rarityBonus, &omegaEnergy, &alphaEnergy})
         *value = (static_cast<float>(power) * *value) / 50;

@@ -1,6 +1,9 @@
-#include "engine/calculator.h"
+#include "engine/power.h"
 
+#include "engine/dps.h"
+#include "engine/modifiers.h"
 #include "engine/numbers.h"
+#include "engine/selection.h"
 
 #include <algorithm>
 
@@ -36,7 +39,7 @@ struct PowerTerms {
     double equipment = 0;
 };
 
-PowerTerms TermsOf(const VesselSettings& set) {
+PowerTerms PowerTermsOf(const VesselSettings& set) {
     PowerTerms t;
     t.core = SkillPoints(1, Level(set.PowerSkill[1]));
     if (set.WarpCore.value() == 1) t.core += 10;
@@ -97,14 +100,14 @@ bool OmegaMustSnap(const Calculator& c) { return Extrapolates(c, 1) && !Extrapol
 
 float PowerBonusAt(const Calculator& c, Vessel v, int setting) {
     if (!Extrapolates(c, v)) return 0.0f;
-    const PowerTerms t = TermsOf(c.settings[v]);
+    const PowerTerms t = PowerTermsOf(c.settings[v]);
     const int low = std::max(75 - setting, 0);
     const double bonus =
         (t.performance * 3) / 16 + (t.efficiency / 300 + t.core / 200) * low + t.equipment + c.state.ShipPowerBonus[v];
     return static_cast<float>(bonus);
 }
 
-int GetPowerLevel(const Calculator& c, Vessel v, bool withBonus) {
+int GetPowerLevel(const Calculator& c, Vessel v, Bonus bonus) {
     const MainSelection& m = c.main;
     int p = 0;
     if (v == 1) {
@@ -112,17 +115,18 @@ int GetPowerLevel(const Calculator& c, Vessel v, bool withBonus) {
     } else if (c.state.Comparing != 0) {
         p = m.PowerLevel[2].index() < 1 ? SettingOfRow(m.PowerLevel[1].text()) : SettingOfRow(m.PowerLevel[2].text());
     }
-    if (withBonus) {
+    if (bonus == Bonus::With) {
         p = WholeNumber(static_cast<float>(p) + PowerBonusAt(c, v, p));
         if (v == 2 && OmegaMustSnap(c) && !IsTestedLevel(p)) p = SnapToTested(p);
     }
     return std::clamp(p, 35, 125);
 }
 
-void CalculatePower(Calculator& c, Vessel v, bool force) {
+void CalculatePower(Calculator& c, Vessel v, Rebuild when) {
+    const bool force = when == Rebuild::Always;
     if (!Extrapolates(c, v) && !force) return;
     List& list = c.main.PowerLevel[v];
-    const int setting = GetPowerLevel(c, v, false);
+    const int setting = GetPowerLevel(c, v, Bonus::Without);
 
     if (!Extrapolates(c, v)) {
         const int before = list.index();
@@ -183,7 +187,7 @@ void CalculatePower(Calculator& c, Vessel v, bool force) {
 }
 
 void UpdateSameAsAlphaPower(Calculator& c) {
-    const int p1 = GetPowerLevel(c, 1, false);
+    const int p1 = GetPowerLevel(c, 1, Bonus::Without);
     int p2 = std::clamp(WholeNumber(static_cast<float>(p1) + PowerBonusAt(c, 2, p1)), 35, 125);
     if (OmegaMustSnap(c) && !IsTestedLevel(p2)) p2 = SnapToTested(p2);
 
@@ -205,7 +209,7 @@ void UpdateSameAsAlphaPower(Calculator& c) {
 
 void ModifiedPower(Calculator& c, Vessel v) {
     VesselSettings& set = c.settings[v];
-    const int p = GetPowerLevel(c, v, false);
+    const int p = GetPowerLevel(c, v, Bonus::Without);
     const int low = std::max(75 - p, 0);
 
     std::string tip = "Ship Power Bonus:" + SignedText(static_cast<int>(c.state.ShipPowerBonus[v]));
@@ -230,7 +234,7 @@ void ModifiedPower(Calculator& c, Vessel v) {
         piece(",  Weapon Performance:", (SkillPoints(3, Level(set.PowerSkill[3])) * 3.0) / 16);
     if (positive(set.PowerSkill[5])) piece(",  Equipment Bonus:", NumericOr(set.PowerSkill[5].text()));
 
-    const PowerTerms t = TermsOf(set);
+    const PowerTerms t = PowerTermsOf(set);
     const double total =
         (t.efficiency / 300 + t.core / 200) * low + (t.performance * 3) / 16 + t.equipment + c.state.ShipPowerBonus[v];
     set.PowerBonus.setCaption(PlainText(Round(total, 2)));

@@ -4,8 +4,12 @@
 //  - records: MainSelection, VesselSettings, VesselSkills hold the controls of
 //    the windows as fields; CalculatorState holds what the engine works out;
 //  - fields: assigning a field runs its handler at once (engine/fields.h);
-//  - handlers: plain functions over the records (engine/calculator.h), nested;
+//  - handlers: plain functions over the records, one header per module, nested;
 //  - views: Qt widgets bound one-to-one to fields, no state of their own.
+//
+// The engine reads and writes these records and nothing above them. The
+// windows' own start values (captions, rows, places, colours) are written by
+// their modules; the values here are those the engine itself starts from.
 
 #include "engine/fields.h"
 
@@ -26,13 +30,9 @@ class Window : public Control {
     Window() { setVisible(false); }
     explicit Window(std::string title, bool shown = false) : m_title(std::move(title)) { setVisible(shown); }
     const std::string& title() const { return m_title; }
+    void setTitle(std::string title) { update(m_title, std::move(title)); }
     WindowState state() const { return m_state; }
-    void setState(WindowState s) {
-        if (m_state != s) {
-            m_state = s;
-            changed();
-        }
-    }
+    void setState(WindowState s) { update(m_state, s); }
     int innerWidth() const { return m_innerWidth; }
     int innerHeight() const { return m_innerHeight; }
     void setInnerSize(int w, int h) {
@@ -52,9 +52,7 @@ class Window : public Control {
 // The selections of the main window `Form1`, both vessels. Alpha's ports have
 // no prefix, Omega's a "C"; lists by vessel carry the vessel as index.
 struct MainSelection {
-    MainSelection();
-
-    Window Form1{"Vantorel 4.0", false};
+    Window Form1;
     Control Contents; // the page all controls stand on; left/top move it
 
     Indexed<List, 1, 4> Forward, Rear, CForward, CRear;
@@ -73,7 +71,7 @@ struct MainSelection {
     Indexed<Label, 0, 13> FiringArcLabel, FiringArcDPS, CFiringArcLabel, CFiringArcDPS;
     Indexed<Picture, 0, 11> FiringArc, CFiringArc;
     Picture AlphaImage, OmegaImage;
-    Line Cline{7020, 3675, 7020, 7890};
+    Line Cline;
     PerVessel<std::string> ShipImageId;
 
     ScrollBar HScroll1, VScroll1;
@@ -81,9 +79,6 @@ struct MainSelection {
 
 // The advanced settings of one vessel: window `Alpha` (vessel 1) or `Omega`.
 struct VesselSettings {
-    // Start values of window `Alpha` (v = 1) or `Omega` (v = 2).
-    void SetUp(Vessel v);
-
     Vessel vessel = 1;
     Window Form;
 
@@ -145,9 +140,6 @@ struct VesselSettings {
 
 // The activated skills of one vessel: window `AlphaSkills` or `OmegaSkills`.
 struct VesselSkills {
-    // Start values of window `AlphaSkills` (v = 1) or `OmegaSkills` (v = 2).
-    void SetUp(Vessel v);
-
     Vessel vessel = 1;
     Window Form;
 
@@ -195,11 +187,24 @@ class Random {
     std::mt19937 m_engine{20101017u};
 };
 
-// Everything the program knows. `main` (or a test, or the CLI) owns one; the
-// constructor runs the start-up, so a fresh Calculator is the program as it
-// stands when its main window first shows.
+struct Calculator;
+
+// How a recalculation reaches the windows. The engine works out the numbers
+// of the firing arcs; the main window shows them. The program sets both steps
+// once at its start; without them a recalculation only works out numbers.
+struct ResultsView {
+    // The arcs in use are decided: show their boxes and rebuild the shuttle
+    // rank lists, whose selection the DPS of the rows then reads.
+    void (*showArcs)(Calculator&) = nullptr;
+    // The rows are worked out: captions, tooltips, colours, the note, the graph.
+    void (*showResults)(Calculator&) = nullptr;
+};
+
+// Everything the program knows. `main` (or a test, or the CLI) owns one,
+// through the program's start-up (program/program.h), which writes every
+// window's start values, wires the handlers and runs the start.
 struct Calculator {
-    Calculator();
+    Calculator() = default;
     Calculator(const Calculator&) = delete;
     Calculator& operator=(const Calculator&) = delete;
 
@@ -208,6 +213,7 @@ struct Calculator {
     PerVessel<VesselSkills> skills;
     CalculatorState state;
     Random random;
+    ResultsView results;
 
     // Work area of the primary screen in twips, given by the front end.
     int workLeft = 0, workTop = 0, workWidth = 19200, workHeight = 15600;

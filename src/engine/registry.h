@@ -1,20 +1,20 @@
 #pragma once
 
-// Every named control and engine value of a Calculator, by the name a user or
-// a test writes for it: `Window.Control[index]` with the index bases of the
-// program (`Form1.Forward[1]`, `Form1.FiringArcDPS[0]`, `Omega.WeaponSkill[8]`),
-// a window by its own name (`Form1`, `Alpha`, `OmegaSkills`), and engine values
+// Names for every control and engine value, as a user or a test writes them:
+// `Window.Control[index]` with the index bases of the program
+// (`Form1.Forward[1]`, `Form1.FiringArcDPS[0]`, `Omega.WeaponSkill[8]`), a
+// window by its own name (`Form1`, `Alpha`, `OmegaSkills`), and engine values
 // under `State` with all indices in one bracket (`State.ArcDPS[0,1]`,
-// `State.DPWCoefficient[1,2,1]`). The scripting front end and the widget tests
-// both walk this one table, so a field missing here is missing everywhere.
+// `State.DPWCoefficient[1,2,1]`). The scripting front end, the widget tests
+// and the random-action soak all walk one table, so a field missing here is
+// missing everywhere.
 
 #include "engine/records.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <unordered_map>
-#include <unordered_set>
+#include <type_traits>
 #include <variant>
 #include <vector>
 
@@ -56,26 +56,64 @@ struct ControlRef {
     ValueKind kind() const { return static_cast<ValueKind>(target.index()); }
 };
 
-// The table of one Calculator. It points into the calculator, which must
-// outlive it; the calculator's fields never move, so it never goes stale.
-class ControlRegistry {
-  public:
-    explicit ControlRegistry(Calculator& c);
+// The named entries of the windows, in the order they were added. Each
+// window module adds its own record's fields (`RegisterFields` in its header);
+// the program puts them together (program/registry.h).
+using FieldTable = std::vector<ControlRef>;
 
-    // In the order of the records: Form1, Alpha, Omega, AlphaSkills,
-    // OmegaSkills, State; within each, the order of the fields.
-    const std::vector<ControlRef>& all() const { return m_refs; }
-    // Exact name, after blanks inside brackets are dropped; null if none.
-    const ControlRef* find(std::string_view name) const;
-    // Whether some name is `base[...]`, so a wrong index can be told from a
-    // wrong name.
-    bool isArray(std::string_view base) const;
+// Adds the fields of one window (or of State) under one prefix:
+// `Form1.Forward[1]`, `State.ArcDPS[0,1]`.
+class FieldNames {
+  public:
+    FieldNames(FieldTable& refs, std::string window, Window* form)
+        : m_refs(refs), m_window(std::move(window)), m_form(form) {}
+
+    template <typename T> void one(const char* field, T& value) { push(m_window + "." + field, {}, value); }
+
+    template <typename T, int First, int Last> void array(const char* field, Indexed<T, First, Last>& values) {
+        const std::string base = m_window + "." + field;
+        for (int i = First; i <= Last; ++i)
+            push(base, "[" + std::to_string(i) + "]", values[i]);
+    }
+
+    // Per-vessel arrays inside a per-row array: `ArcDPS[row,vessel]`.
+    template <typename T, int First, int Last>
+    void rowsByVessel(const char* field, Indexed<PerVessel<T>, First, Last>& values) {
+        const std::string base = m_window + "." + field;
+        for (int row = First; row <= Last; ++row) {
+            for (int v = 1; v <= 2; ++v)
+                push(base, "[" + std::to_string(row) + "," + std::to_string(v) + "]", values[row][v]);
+        }
+    }
+
+    // The window itself, by its own name.
+    void window(Window& w) {
+        ControlRef ref{m_window, m_window, m_window, &w, &w, &w};
+        m_refs.push_back(std::move(ref));
+    }
+
+    // An entry whose name is written out in full.
+    template <typename T> void named(std::string base, std::string index, T& value) { push(base, index, value); }
 
   private:
-    std::vector<ControlRef> m_refs;
-    std::unordered_map<std::string, std::size_t> m_byName;
-    std::unordered_set<std::string> m_arrays;
+    template <typename T> void push(const std::string& base, const std::string& index, T& value) {
+        ControlRef ref;
+        ref.name = base + index;
+        ref.window = m_window;
+        ref.base = base;
+        ref.target = &value;
+        if constexpr (std::is_base_of_v<Control, T>) ref.control = &value;
+        ref.form = ref.control ? m_form : nullptr;
+        m_refs.push_back(std::move(ref));
+    }
+
+    FieldTable& m_refs;
+    std::string m_window;
+    Window* m_form;
 };
+
+// The engine's own values, under `State`.
+void RegisterFields(FieldTable& table, CalculatorState& s);
 
 // The name of a kind for messages: "list", "check box", "engine value", ...
 std::string_view KindName(ValueKind kind);

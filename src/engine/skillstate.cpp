@@ -1,5 +1,8 @@
-#include "engine/calculator.h"
+#include "engine/skillstate.h"
+
+#include "engine/arcs.h"
 #include "engine/numbers.h"
+#include "engine/selection.h"
 
 namespace vantorel {
 
@@ -16,7 +19,7 @@ std::int16_t LevelOf(const Flag& activated, const List& level) {
 void SkillUpdate(Calculator& c, Vessel v) {
     CalculatorState& s = c.state;
     // A mirrored Omega window is only a view of Alpha's choices.
-    const VesselSkills& src = (v == 1 || c.skills[2].SameAsAlpha.value() == 1) ? c.skills[1] : c.skills[2];
+    const VesselSkills& src = (v == 1 || OmegaSkillsMirrorAlpha(c)) ? c.skills[1] : c.skills[2];
 
     s.BeamSkill[v] = LevelOf(src.BeamSkillActivated, src.BeamSkillLevel);
     s.BeamOverload[v] = LevelOf(src.BeamOverloadActivated, src.BeamOverloadLevel);

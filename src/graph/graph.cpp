@@ -1,8 +1,8 @@
-#include "engine/calculator.h"
+#include "graph/graph.h"
 
 namespace vantorel {
 
-// Not yet built: answers that keep the rest running.
+// The graph window is not built yet: there is nothing to redraw.
 void GraphControl(Calculator&) {}
 
 } // namespace vantorel

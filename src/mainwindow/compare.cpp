@@ -1,4 +1,11 @@
-#include "engine/calculator.h"
+#include "mainwindow/compare.h"
+
+#include "catalogue/cascade.h"
+#include "catalogue/pictures.h"
+#include "catalogue/ports.h"
+#include "engine/arcs.h"
+#include "engine/modifiers.h"
+#include "mainwindow/layout.h"
 
 namespace vantorel {
 
@@ -53,7 +60,7 @@ void HideCompareClicked(Calculator& c) {
     m.Compare.setVisible(true);
     ShowOmegaColumn(m, false);
 
-    DifferenceColor(c, -1, 0.0f, 0.0f);
+    ClearDifferenceColours(c);
     m.Cline.setVisible(false);
     m.Note.setLeft(2880);
 

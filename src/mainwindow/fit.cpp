@@ -1,4 +1,3 @@
-#include "engine/calculator.h"
 #include "mainwindow/layout.h"
 
 #include <algorithm>

@@ -1,7 +1,5 @@
 #include "mainwindow/layout.h"
 
-#include "engine/calculator.h"
-
 #include <cmath>
 #include <cstdlib>
 
@@ -206,11 +204,8 @@ void LayOutMainWindow(MainSelection& m) {
     m.VScroll1.setWidth(kScrollBarThickness);
 }
 
-void WireScrollBars(Calculator& c) {
-    MainSelection& m = c.main;
-    m.HScroll1.setHandler([&m] { m.Contents.setLeft(-m.HScroll1.value()); });
-    m.VScroll1.setHandler([&m] { m.Contents.setTop(-m.VScroll1.value()); });
-}
+void HScroll1Changed(Calculator& c) { c.main.Contents.setLeft(-c.main.HScroll1.value()); }
+void VScroll1Changed(Calculator& c) { c.main.Contents.setTop(-c.main.VScroll1.value()); }
 
 void ShowMainWindowAtStart(Calculator& c) {
     const StartPlace p = PlaceAtStart({c.workLeft, c.workTop, c.workWidth, c.workHeight}, kGraphWindowWidth);

@@ -90,8 +90,11 @@ StartPlace PlaceAtStart(const WorkArea& work, int graphWidth);
 // scroll bars, and the colours of the window and of the rare shuttle array
 // check.
 void LayOutMainWindow(MainSelection& m);
-// The scroll bars move the page.
-void WireScrollBars(Calculator& c);
+// The scroll bars move the page: the page's left (top) is minus the value.
+void HScroll1Changed(Calculator& c);
+void VScroll1Changed(Calculator& c);
+// The fit of the main window to the work area, run on every resize.
+void FitWindow(Calculator& c);
 // The end of the start: the width of `Alpha`, the place and width of the main
 // window (which runs the fit), then the main window is shown.
 void ShowMainWindowAtStart(Calculator& c);

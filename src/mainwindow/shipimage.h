@@ -5,8 +5,9 @@
 // the 360 by 360 picture, y growing downwards; angles are bearings in degrees
 // from the bow, which points up, growing clockwise (to starboard).
 
+#include "engine/records.h"
+
 #include <array>
-#include <string>
 
 namespace vantorel {
 
@@ -54,5 +55,9 @@ ArcPoint PointOnBearing(double bearing, double radius);
 // The overlay of FiringArc[i] / CFiringArc[i], i in 0..11. Any other index
 // gives an empty geometry (radius 0, no sweeps).
 ArcGeometry FiringArcGeometry(int i);
+
+// The line between Alpha's and Omega's halves of the picture: shown while the
+// two vessels have different pictures, from the top of the arcs in use.
+void DecideCline(Calculator& c);
 
 } // namespace vantorel

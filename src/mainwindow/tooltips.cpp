@@ -1,5 +1,8 @@
-#include "engine/calculator.h"
+#include "mainwindow/tooltips.h"
+
+#include "engine/dpw.h"
 #include "engine/numbers.h"
+#include "engine/selection.h"
 
 #include <algorithm>
 
@@ -49,15 +52,11 @@ std::string BeamSkillPart(const CalculatorState& s, Vessel v) {
 
 } // namespace
 
-std::string CalculateToolTip(Calculator& c, int dualHeavyCannons, int dualCannons, int dualBeamBanks, int cannons,
-                             int beamArrays, int turrets, int shuttleBeamArrays, int power, int distance, Vessel v) {
-    return CalculateToolTip(c, FactorsOf(c, v), dualHeavyCannons, dualCannons, dualBeamBanks, cannons, beamArrays,
-                            turrets, shuttleBeamArrays, power, distance, v);
+std::string CalculateToolTip(Calculator& c, const FiringSet& set, Vessel v) {
+    return CalculateToolTip(c, FactorsOf(c, v), set, v);
 }
 
-std::string CalculateToolTip(Calculator& c, const VesselFactors& f, int dualHeavyCannons, int dualCannons,
-                             int dualBeamBanks, int cannons, int beamArrays, int turrets, int shuttleBeamArrays,
-                             int power, int distance, Vessel v) {
+std::string CalculateToolTip(Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v) {
     const CalculatorState& s = c.state;
     float boosted = f.criticalBoosted;
     float plain = f.critical;
@@ -76,10 +75,9 @@ std::string CalculateToolTip(Calculator& c, const VesselFactors& f, int dualHeav
     static constexpr Word kWords[7] = {
         {" Dual Heavy Cannons", false}, {" Dual Cannons", false}, {" Dual Beam Bank", true},    {" Cannon", true},
         {" Beam Array", true},          {" Turret", true},        {" Shuttle Beam Array", true}};
-    const WeaponTerms terms = TermsOf(c, f, dualHeavyCannons, dualCannons, dualBeamBanks, cannons, beamArrays, turrets,
-                                      shuttleBeamArrays, distance, v, false);
-    const int total =
-        dualHeavyCannons + dualCannons + dualBeamBanks + cannons + beamArrays + turrets + shuttleBeamArrays;
+    const WeaponTerms terms = TermsOf(c, f, set, v, SkillEffect::Counted);
+    const int total = set.weapons.total();
+    const int power = set.power;
 
     std::string text;
     std::string cannonPart;

@@ -9,7 +9,15 @@
 // mirrored Omega. Opening a section only enables the lists that it holds,
 // since a disabled list runs no handler. The window code replaces all of this.
 
-#include "engine/calculator.h"
+#include "settings/interim.h"
+
+#include "catalogue/cascade.h"
+#include "engine/combat.h"
+#include "engine/modifiers.h"
+#include "engine/power.h"
+#include "engine/selection.h"
+#include "engine/skillstate.h"
+#include "settings/settings.h"
 
 #include <initializer_list>
 
@@ -59,13 +67,13 @@ void WireSettings(Calculator& c, Vessel v) {
     s.ExtrapolatePower.setHandler([calc, v] {
         VesselSettings& own = calc->settings[v];
         SetEnabled({&own.PowerCaptain}, own.ExtrapolatePower.value() == 1);
-        CalculatePower(*calc, v, true);
+        CalculatePower(*calc, v, Rebuild::Always);
         ModifiedDPS(*calc, v);
     });
     for (int i = 1; i <= 5; ++i)
-        s.PowerSkill[i].setHandler([calc, v] { CalculatePower(*calc, v, true); });
-    s.PowerCaptain.setHandler([calc, v] { CalculatePower(*calc, v, true); });
-    s.WarpCore.setHandler([calc, v] { CalculatePower(*calc, v, true); });
+        s.PowerSkill[i].setHandler([calc, v] { CalculatePower(*calc, v, Rebuild::Always); });
+    s.PowerCaptain.setHandler([calc, v] { CalculatePower(*calc, v, Rebuild::Always); });
+    s.WarpCore.setHandler([calc, v] { CalculatePower(*calc, v, Rebuild::Always); });
 
     // One value for both vessels: a change on either side is copied to the
     // other, whose handler then finds nothing to copy back.
@@ -113,7 +121,7 @@ enum class Follow { None, Damage, Resistance, Critical };
 void SkillChanged(Calculator& c, Vessel v, Follow follow) {
     // A mirrored Omega reads Alpha's skills, so Alpha's change moves it too.
     for (Vessel w = v; w <= 2; ++w) {
-        if (w == 2 && v == 1 && c.skills[2].SameAsAlpha.value() != 1) break;
+        if (w == 2 && v == 1 && !OmegaSkillsMirrorAlpha(c)) break;
         SkillUpdate(c, w);
         if (follow == Follow::Resistance) ModifiedResistance(c, w);
         if (follow == Follow::Critical) ModifiedCritical(c, w);

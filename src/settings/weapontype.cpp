@@ -1,5 +1,8 @@
-#include "engine/calculator.h"
+#include "settings/settings.h"
+
+#include "catalogue/cascade.h"
 #include "engine/numbers.h"
+#include "engine/selection.h"
 
 #include <string>
 
@@ -160,8 +163,8 @@ void DisplayedDPSUpdate(Calculator& c, Vessel v) {
         for (int i = 1; i <= 7; ++i)
             s.CalculatedWeaponDPSLabel[i].setCaption(stored[i]);
     } else {
-        const std::string e = GetDamageType(c, v, 1);
-        const std::string p = GetDamageType(c, v, 2);
+        const std::string e = GetDamageType(c, v, DamageGroup::Energy);
+        const std::string p = GetDamageType(c, v, DamageGroup::Projectile);
         const std::string named[8] = {
             "",           e + "Dual (Heavy) Cannons", "Dual " + e + "Beam Bank", e + "Cannon", e + "Beam Array",
             e + "Turret", p + "Torpedo Launcher",     p + "Mine Launcher"};
@@ -188,15 +191,29 @@ void WeaponTypeChanged(Calculator& c, Vessel v, int k) {
     UpdateTypeSkillBox(c, v, k, index);
     DisplayedDPSUpdate(c, v);
 
-    if (v == 1 && OmegaMirrorsAlpha(c)) {
-        // Omega's mirrored list is disabled, and a disabled list stays quiet
-        // when assigned; the type handler must still rewrite Omega's rows.
-        List& omega = c.Omega().WeaponType[k];
-        const int before = omega.index();
-        omega.setIndex(index);
-        if (!omega.enabled() && omega.index() != before) WeaponTypeChanged(c, 2, k);
-    }
+    // Omega's type lists run their handler even while disabled, so the
+    // mirrored list rewrites Omega's rows too.
+    if (v == 1 && OmegaMirrorsAlpha(c)) c.Omega().WeaponType[k].setIndex(index);
     if (list.enabled()) ShipControl(c);
+}
+
+void ResetModifier(Calculator& c) {
+    for (Vessel v = 1; v <= 2; ++v) {
+        CalculatorState& s = c.state;
+        s.BeamModifier[v] = 1.0f;
+        s.CannonModifier[v] = 1.0f;
+        s.TorpedoDamage[v] = 1.0f;
+        s.MineDamage[v] = 1.0f;
+        for (int i = 1; i <= 7; ++i) {
+            c.settings[v].CalculatedWeaponDPS[i].setCaption("");
+            c.settings[v].CalculatedWeaponDPS[i].setTooltip("");
+        }
+    }
+    c.Alpha().MatchConsole.setValue(1);
+    for (Vessel v = 1; v <= 2; ++v)
+        for (int i = 1; i <= 4; ++i)
+            c.settings[v].TacticalConsoleEquipped[i].setValue(1);
+    ShipControl(c);
 }
 
 } // namespace vantorel

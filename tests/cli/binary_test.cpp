@@ -3,8 +3,10 @@
 
 #include "cli/script.h"
 
-#include "engine/calculator.h"
+#include "engine/dps.h"
+#include "engine/power.h"
 #include "json_reader.h"
+#include "program/program.h"
 
 #include <gtest/gtest.h>
 
@@ -129,7 +131,7 @@ TEST_F(Binary, ExamplesPrintTheArcValuesThatTheEngineComputes) {
 
         // The same script in this process, then each row worked out again
         // from the counts the script left, as the firing arcs assemble them.
-        Calculator c;
+        Program c;
         std::ostringstream ignored, err;
         ASSERT_EQ(RunScript(c, Slurp(entry.path()), ignored, err), 0) << err.str();
         const auto& n = c.state.WeaponCount;
@@ -143,8 +145,9 @@ TEST_F(Binary, ExamplesPrintTheArcValuesThatTheEngineComputes) {
                 const std::string name = "State.ArcDPS[" + std::to_string(row) + "," + std::to_string(v) + "]";
                 if (!printed.count(name)) continue;
                 const int* k = rows[row];
-                const float expected = CalculateDPS(c, k[0], k[1], k[2], k[3], k[4], turrets, shuttles,
-                                                    GetPowerLevel(c, v, true), distance, v, false);
+                const WeaponCounts weapons{k[0], k[1], k[2], k[3], k[4], turrets, shuttles};
+                const float expected =
+                    CalculateDPS(c, {weapons, GetPowerLevel(c, v, Bonus::With), distance}, v, SkillEffect::Counted);
                 EXPECT_EQ(std::strtof(printed.at(name).c_str(), nullptr), expected) << name;
             }
         }

@@ -1,9 +1,9 @@
 #include "cli/script.h"
 
 #include "cli/json.h"
-#include "engine/calculator.h"
-#include "engine/registry.h"
 #include "json_reader.h"
+#include "program/program.h"
+#include "program/registry.h"
 
 #include <gtest/gtest.h>
 
@@ -59,7 +59,7 @@ std::string Printed(const Result& r, const std::string& name) {
 // Handlers are replaced by counters, so the verbs are told apart by the
 // events they raise, whatever the engine does.
 TEST(Script, EachVerbRaisesTheEventsOfItsControl) {
-    Calculator c;
+    Program c;
     int port = 0, box = 0, power = 0, targets = 0, reset = 0;
     c.main.Forward[1].setHandler([&] { ++port; });
     c.main.Simplified.setHandler([&] { ++box; });
@@ -93,7 +93,6 @@ TEST(Script, SetAssignsAsTheProgramDoesEvenOnHiddenControls) {
         {"text box", "set Omega.TargetDefense \"45\"", "Omega.TargetDefense", "\"text\":\"45\""},
         {"label", "set Form1.Note \"Hello\"", "Form1.Note", "\"caption\":\"Hello\""},
         {"button", "set Form1.Advanced[2] \"Hide Settings\"", "Form1.Advanced[2]", "\"caption\":\"Hide Settings\""},
-        {"scroll bar", "set Form1.HScroll1 120", "Form1.HScroll1", "\"value\":120,"},
         {"plain text", "set Form1.ShipImageId[1] \"Cruiser/5/2\"", "Form1.ShipImageId[1]", "\"Cruiser/5/2\""},
         {"16-bit", "set State.SkillTargets[1] 3", "State.SkillTargets[1]", "3"},
         {"whole number", "set State.WindowFitted -1", "State.WindowFitted", "-1"},
@@ -104,7 +103,7 @@ TEST(Script, SetAssignsAsTheProgramDoesEvenOnHiddenControls) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         const Result r = RunOn(c, std::string(k.script) + "\nprint " + k.printed + "\n");
         const std::string value = Printed(r, k.printed);
         EXPECT_NE(value.find(k.expected), std::string::npos) << k.name << ": " << value << "\n" << r.err;
@@ -154,7 +153,7 @@ TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         if (k.setup) k.setup(c);
         const Result r = RunOn(c, k.script);
         EXPECT_EQ(std::tuple(r.status, r.err, r.out), std::tuple(2, std::string(k.expected) + "\n", "")) << k.name;
@@ -168,7 +167,7 @@ TEST(Script, ReadsAScriptThatStartsWithAByteOrderMark) {
 }
 
 TEST(Script, WithoutPrintWritesTheWholeStateOnceInRecordOrder) {
-    Calculator c;
+    Program c;
     const std::vector<Members> objects = Objects(RunOn(c, "# nothing but a comment\n"));
     ASSERT_EQ(objects.size(), 1u);
     const ControlRegistry registry(c);
@@ -178,7 +177,7 @@ TEST(Script, WithoutPrintWritesTheWholeStateOnceInRecordOrder) {
 }
 
 TEST(Script, EachPrintWritesOneObjectOfTheMatchingNamesInRecordOrder) {
-    Calculator c;
+    Program c;
     const std::vector<Members> objects = Objects(RunOn(c, "print Form1.Forward*\nprint State.ArcDPS[?,2]\n"
                                                           "print State.ArcDPS[ 0, 1 ]\nprint \"Form1.Note\"\n"));
     ASSERT_EQ(objects.size(), 4u);
@@ -206,7 +205,7 @@ TEST(Script, PrintsEachKindInItsOwnForm) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         const std::string value = Printed(RunOn(c, std::string("print ") + k.name), k.name);
         EXPECT_EQ(testing::KeysOf(value), k.keys) << k.name << ": " << value;
         EXPECT_EQ(value.front() == '{', !k.keys.empty()) << k.name << ": " << value;
@@ -222,7 +221,7 @@ TEST(Script, TextsRoundTripThroughEscapes) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         const Result r = RunOn(c, std::string("set Form1.Note ") + k.written + "\nprint Form1.Note\n");
         EXPECT_EQ(Printed(r, "Form1.Note").rfind("{\"caption\":" + JsonString(k.meant) + ",", 0), 0u) << k.name;
         EXPECT_EQ(c.main.Note.caption(), k.meant) << k.name;

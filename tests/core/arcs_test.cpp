@@ -34,7 +34,7 @@ TEST(WeaponCounting, PortTextsToSlots) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         if (!k.relative) {
             c.Alpha().RelativeDPS.setValue(0);
             c.Alpha().WeaponType[1].setIndex(0); // Phaser
@@ -52,8 +52,10 @@ TEST(WeaponCounting, PortTextsToSlots) {
 }
 
 TEST(WeaponCounting, OldNamesAndOmegaPorts) {
-    Calculator c;
+    Program c;
     c.Alpha().RelativeDPS.setValue(0);
+    // A free Omega keeps its own damage types: none.
+    c.Omega().SameAsAlpha.setValue(0);
     c.Alpha().WeaponType[1].setIndex(0);
     c.main.Forward[1].setText("Phaser Beam Array");
     c.main.CForward[2].setText("Beam Array");
@@ -93,7 +95,7 @@ TEST(FiringArcs, BoxesInUseByLoadout) {
     };
     // clang-format on
     for (const auto& k : cases) {
-        Calculator c;
+        Program c;
         c.main.Simplified.setValue(k.simplified ? 1 : 0);
         Fit(c, k.forward, k.rear);
         CalculateFiringArcs(c);
@@ -114,14 +116,16 @@ TEST(FiringArcs, BoxesInUseByLoadout) {
 }
 
 TEST(FiringArcs, EachBoxShowsItsRow) {
-    Calculator c;
+    Program c;
     Fit(c, {"Beam Array", "Beam Array"}, {"Beam Array"});
     CalculateFiringArcs(c);
-    EXPECT_EQ(c.main.FiringArcDPS[2].caption(), PlainText(CalculateDPS(c, 0, 0, 0, 0, 2, 0, 0, 100, 0, 1, false)));
-    EXPECT_EQ(c.main.FiringArcDPS[7].caption(), PlainText(CalculateDPS(c, 0, 0, 0, 0, 3, 0, 0, 100, 0, 1, false)));
+    EXPECT_EQ(c.main.FiringArcDPS[2].caption(),
+              PlainText(CalculateDPS(c, {{.beamArrays = 2}, 100, 0}, 1, SkillEffect::Counted)));
+    EXPECT_EQ(c.main.FiringArcDPS[7].caption(),
+              PlainText(CalculateDPS(c, {{.beamArrays = 3}, 100, 0}, 1, SkillEffect::Counted)));
     EXPECT_EQ(std::tuple(c.main.FiringArcDPS[9].caption(), c.state.ArcDPS[5][1]), std::tuple("100", 100.0f));
     // Simplified shows the front, side and rear rows.
-    Calculator s;
+    Program s;
     s.main.Simplified.setValue(1);
     Fit(s, {"Beam Array", "Dual Cannons"}, {});
     CalculateFiringArcs(s);
@@ -131,7 +135,7 @@ TEST(FiringArcs, EachBoxShowsItsRow) {
 }
 
 TEST(FiringArcs, EightWeaponsWithDualCannons) {
-    Calculator c;
+    Program c;
     Fit(c, {"Dual Cannons", "Dual Cannons", "Beam Array", "Beam Array"}, {"Turret", "Turret", "Turret", "Turret"});
     CalculateFiringArcs(c);
     EXPECT_EQ(std::tuple(c.state.ArcDPS[0][1], c.main.FiringArcDPS[0].caption()), std::tuple(-1.0f, "-1"));
@@ -140,8 +144,8 @@ TEST(FiringArcs, EightWeaponsWithDualCannons) {
 }
 
 TEST(FiringArcs, TorpedoesAloneUseTheFrontBurst) {
-    Calculator c;
-    c.main.Forward[1].setText(GetDamageType(c, 1, 2) + "Torpedo Launcher");
+    Program c;
+    c.main.Forward[1].setText(GetDamageType(c, 1, DamageGroup::Projectile) + "Torpedo Launcher");
     CalculateFiringArcs(c);
     for (int i = 0; i <= 13; ++i)
         EXPECT_EQ(c.state.ArcShown[i], i == 12) << i;
@@ -166,13 +170,13 @@ TEST(FiringArcs, DifferenceColourBands) {
     };
     // clang-format on
     for (const auto& k : cases) {
-        Calculator c;
+        Program c;
         DifferenceColor(c, 4, k.alpha, k.omega);
         EXPECT_EQ(c.main.FiringArcDPS[4].back(), k.alphaBack) << k.name;
         EXPECT_EQ(c.main.CFiringArcDPS[4].back(), k.omegaBack) << k.name;
     }
     // -1 clears the arc boxes only.
-    Calculator c;
+    Program c;
     for (int i = 0; i <= 13; ++i)
         DifferenceColor(c, i, 10.0f, 0.0f);
     DifferenceColor(c, -1, 0.0f, 0.0f);
@@ -184,7 +188,7 @@ TEST(FiringArcs, DifferenceColourBands) {
 }
 
 TEST(FiringArcs, ComparisonShowsEachSidesOwnValues) {
-    Calculator c;
+    Program c;
     CompareClicked(c);
     c.main.Forward[1].setText("Dual Cannons");
     c.main.CForward[1].setText("Beam Array");
@@ -198,7 +202,7 @@ TEST(FiringArcs, ComparisonShowsEachSidesOwnValues) {
     EXPECT_EQ(c.main.FiringArcDPS[0].back(), MediumGreen);
     EXPECT_EQ(c.main.CFiringArcDPS[0].back(), MediumRed);
     // Omega's box 5 copies Alpha's caption.
-    Calculator d;
+    Program d;
     CompareClicked(d);
     d.main.Forward[1].setText("Dual Beam Bank");
     d.main.CRear[1].setText("Turret");
@@ -234,25 +238,25 @@ TEST(ShipImage, EveryRowOfTheShipTableNamesItsPicture) {
         {"Shuttlecraft ", "4/0=kshuttle1 1/1=last"},
     };
     // clang-format on
-    Calculator c;
+    Program c;
     for (const Case& k : cases) {
         std::istringstream words(k.pictures);
         for (std::string word; words >> word;) {
             const int tier = word[0] - '0', row = word[2] - '0';
             const std::string name = word.substr(4), id = k.shipClass + word.substr(0, 3).insert(0, "/");
             ShowLast(c);
-            DrawShip(c, k.shipClass, tier, row, k.shipClass, tier, row);
+            DrawShip(c, {k.shipClass, tier, row}, {k.shipClass, tier, row});
             EXPECT_EQ(std::tuple(c.main.AlphaImage.image(), c.main.OmegaImage.image()), std::tuple(name, name)) << id;
             EXPECT_EQ(std::tuple(c.main.ShipImageId[1], c.main.ShipImageId[2]), std::tuple(id, id));
         }
     }
     ShowLast(c);
-    DrawShip(c, "Unrestricted", 3, 2, "Unrestricted", 3, 2);
+    DrawShip(c, {"Unrestricted", 3, 2}, {"Unrestricted", 3, 2});
     EXPECT_EQ(std::tuple(c.main.AlphaImage.image(), c.main.ShipImageId[1]), std::tuple("unrestricted", "Unrestricted"));
     // An unknown class shows the unrestricted ship on Alpha only.
     for (const char* shipClass : {"", "Starbase", "Cruiser ", "cruiser"}) {
         ShowLast(c);
-        DrawShip(c, shipClass, 5, 0, shipClass, 5, 0);
+        DrawShip(c, {shipClass, 5, 0}, {shipClass, 5, 0});
         EXPECT_EQ(c.main.AlphaImage.image(), "unrestricted") << '"' << shipClass << '"';
         EXPECT_EQ(c.main.OmegaImage.image(), *shipClass ? kLast : "") << '"' << shipClass << '"';
     }
@@ -260,11 +264,11 @@ TEST(ShipImage, EveryRowOfTheShipTableNamesItsPicture) {
 
 TEST(ShipImage, KlingonDrawsAlphaThenOmegaFromTheOneSequence) {
     const char* const names[] = {"bc5", "bc4", "bop1", "bc3", "rap2"};
-    Calculator c;
+    Program c;
     Random probe = c.random;
     std::set<std::string> seen;
     for (int draw = 0; draw < 40; ++draw) {
-        DrawShip(c, "Klingon", 1 + draw % 5, draw % 3, "Klingon", 5, 0);
+        DrawShip(c, {"Klingon", 1 + draw % 5, draw % 3}, {"Klingon", 5, 0});
         const std::string alpha = names[static_cast<int>(probe.next() * 5.0)];
         const std::string omega = names[static_cast<int>(probe.next() * 5.0)];
         EXPECT_EQ(c.main.AlphaImage.image(), alpha) << "draw " << draw;
@@ -274,7 +278,7 @@ TEST(ShipImage, KlingonDrawsAlphaThenOmegaFromTheOneSequence) {
     }
     EXPECT_EQ(seen.size(), 5u);
     // Without a second ship only Alpha draws.
-    DrawShip(c, "Klingon", 5, 0, "", 0, 0);
+    DrawShip(c, {"Klingon", 5, 0}, {});
     EXPECT_EQ(c.main.AlphaImage.image(), names[static_cast<int>(probe.next() * 5.0)]);
     EXPECT_EQ(c.random.next(), probe.next());
 }
@@ -299,20 +303,20 @@ TEST(ShipImage, TranslatedOmegaClasses) {
         {"Allied Vessel", 2, "Federation Allied Vessel", 1, 0, "last", "Federation Allied Vessel/1/0"},
     };
     // clang-format on
-    Calculator c;
+    Program c;
     for (const Case& k : cases) {
         ShowLast(c);
-        DrawShip(c, k.alphaClass, 5, k.alphaRow, k.omegaClass, k.tier, k.row);
+        DrawShip(c, {k.alphaClass, 5, k.alphaRow}, {k.omegaClass, k.tier, k.row});
         EXPECT_EQ(c.main.OmegaImage.image(), k.name) << k.id << " from Alpha's row " << k.alphaRow;
         EXPECT_EQ(c.main.ShipImageId[2], k.id);
     }
 }
 
 TEST(ShipImage, OmegaWithoutATierRowKeepsItsLastPicture) {
-    Calculator c;
-    DrawShip(c, "Cruiser", 5, 0, "Escort", 2, 0);
+    Program c;
+    DrawShip(c, {"Cruiser", 5, 0}, {"Escort", 2, 0});
     ASSERT_EQ(c.main.OmegaImage.image(), "esc2");
-    DrawShip(c, "Cruiser", 5, 0, "Escort", 1, 0);
+    DrawShip(c, {"Cruiser", 5, 0}, {"Escort", 1, 0});
     EXPECT_EQ(std::tuple(c.main.AlphaImage.image(), c.main.OmegaImage.image()), std::tuple("cru5", "esc2"));
     EXPECT_EQ(c.main.ShipImageId[2], "Escort/1/0");
 }
@@ -329,7 +333,7 @@ TEST(ShipImage, ClineFollowsTheIdsAndTheWidestForwardArc) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         c.main.ShipImageId[1] = k.id1;
         c.main.ShipImageId[2] = k.id2;
         c.state.ArcShown[0] = k.arc0;
@@ -340,12 +344,12 @@ TEST(ShipImage, ClineFollowsTheIdsAndTheWidestForwardArc) {
         EXPECT_EQ(c.main.Cline.y2(), 7890) << k.name;
     }
     // Two ships with one picture still show the line; one ship hides it.
-    Calculator c;
-    DrawShip(c, "Federation", 2, 0, "Cruiser", 2, 0);
+    Program c;
+    DrawShip(c, {"Federation", 2, 0}, {"Cruiser", 2, 0});
     EXPECT_EQ(c.main.OmegaImage.image(), "cru2");
     DecideCline(c);
     EXPECT_TRUE(c.main.Cline.visible());
-    DrawShip(c, "Cruiser", 4, 0, "", 0, 0);
+    DrawShip(c, {"Cruiser", 4, 0}, {});
     EXPECT_EQ(std::tuple(c.main.AlphaImage.image(), c.main.OmegaImage.image()), std::tuple("cru4", ""));
     EXPECT_EQ(c.main.ShipImageId[2], "");
     DecideCline(c);
@@ -356,7 +360,7 @@ TEST(ShipImage, ShipImageControlDrawsOneWholePictureForOneShip) {
     // At the start Omega is on its same-as rows: the same ship as Alpha. The
     // line is left alone unless comparing.
     for (int comparing : {0, -1}) {
-        Calculator c;
+        Program c;
         c.state.Comparing = comparing;
         c.main.OmegaImage.setImage(kLast);
         c.main.ShipImageId[2] = "Escort/5/0";

@@ -16,9 +16,9 @@ void AccMods(Calculator& c, int count) {
 }
 
 TEST(Combat, DefaultsGiveTheStandardCriticalFactor) {
-    Calculator c;
+    Program c;
     ModifiedCritical(c, 1);
-    EXPECT_EQ(CriticalMultiplier(c, 1, false, 0, 0), 1.03375f);
+    EXPECT_EQ(CriticalMultiplier(c, 1, Severity::Plain, 0, 0), 1.03375f);
     EXPECT_EQ(c.Alpha().CritH.caption(), "4.5%");
     EXPECT_EQ(c.Alpha().CritH.tooltip(), "Critical Chance- Base: 2.5%, Attack Vectors (Max): 2%");
     EXPECT_EQ(c.Alpha().CritD.caption(), "75%");
@@ -45,7 +45,7 @@ TEST(Combat, HitRate) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         k.setUp(c);
         c.Alpha().Accuracy.setValue(1);
         ModifiedAccuracy(c, 1);
@@ -59,7 +59,7 @@ TEST(Combat, HitRate) {
 }
 
 TEST(Combat, ExcessAccuracyFeedsTheCriticalTexts) {
-    Calculator c;
+    Program c;
     CustomCombat(c, 1, "9", "", "");
     c.Alpha().TargetDefense.setText("0");
     AccMods(c, 3);
@@ -90,7 +90,7 @@ TEST(Combat, CriticalBoxes) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         CustomCombat(c, k.vessel, k.vectors, "", k.strategy, k.item);
         if (k.mods) {
             c.Alpha().RelativeDPS.setValue(0);
@@ -114,7 +114,7 @@ TEST(Combat, AttackPatternSkill) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         CustomCombat(c, 1, k.vectors, k.maneuvers, k.strategy, k.item);
         EXPECT_EQ(GetAttackPatternSkill(c, 1), k.skill) << k.name;
         EXPECT_EQ(GetAttackPatternSkill(c, 2), k.skill) << k.name << ": a mirrored Omega reads Alpha's";
@@ -131,7 +131,7 @@ TEST(Combat, AttackPatternAlphaInTheCriticalBoxes) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         CustomCombat(c, 1, "9", "9", "9");
         c.state.AttackPatternAlpha[1] = static_cast<std::int16_t>(k.level);
         ModifiedCritical(c, 1);
@@ -158,7 +158,7 @@ TEST(Combat, Resistance) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         k.setUp(c);
         ModifiedResistance(c, k.vessel);
         EXPECT_FLOAT_EQ(c.state.ResistanceFactor[k.vessel], k.factor) << k.name;
@@ -191,7 +191,7 @@ TEST(Chains, FieldsReachTheArcs) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         c.main.Forward[1].setText("Beam Array");
         CalculateFiringArcs(c);
         k.change(c);
@@ -204,7 +204,7 @@ TEST(Chains, FieldsReachTheArcs) {
 }
 
 TEST(Chains, RelativeDPSIsOneSettingForBothVessels) {
-    Calculator c;
+    Program c;
     c.Alpha().RelativeDPS.setValue(0);
     EXPECT_EQ(c.Omega().RelativeDPS.value(), 0);
     EXPECT_TRUE(c.Alpha().WeaponMark.enabled() && c.Omega().WeaponMod[3].enabled());
@@ -229,14 +229,14 @@ TEST(Chains, SettingsBoxes) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         k.change(c);
         EXPECT_EQ(k.box(c).caption(), k.caption) << k.name;
     }
 }
 
 TEST(Chains, MirroredOmegaFollowsAlpha) {
-    Calculator c;
+    Program c;
     c.main.Forward[1].setText("Beam Array");
     CalculateFiringArcs(c);
     c.state.Comparing = -1;
@@ -266,7 +266,7 @@ void PlainCustom(Calculator& c) {
 const std::string kBare = "Mark Bonus: 0, Skill Bonus:  0, Console Bonus:  0, accolade bonus:  0";
 
 TEST(Modifiers, BareReferenceWeapon) {
-    Calculator c;
+    Program c;
     PlainCustom(c);
     const VesselSettings& a = c.Alpha();
     EXPECT_EQ(std::tuple(c.state.CannonModifier[1], c.state.BeamModifier[1]), std::tuple(1.4223658f, 1.4223658f));
@@ -306,7 +306,7 @@ TEST(Modifiers, BreakdownPieces) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         PlainCustom(c);
         k.setUp(c);
         ModifiedDPS(c, 1);
@@ -316,7 +316,7 @@ TEST(Modifiers, BreakdownPieces) {
 }
 
 TEST(Modifiers, OmegaAndRelativeMode) {
-    Calculator c;
+    Program c;
     PlainCustom(c);
     c.state.Comparing = -1;
     VesselSettings& o = c.Omega();
@@ -332,10 +332,10 @@ TEST(Modifiers, OmegaAndRelativeMode) {
               "Base Damage: 160, " + kBare + ", Weapon Mod [Dmg]: 16, Weapon Rarity (Unc.): 4");
 
     // Relative mode and a hidden Omega are left alone.
-    Calculator r;
+    Program r;
     ModifiedDPS(r, 1);
     EXPECT_EQ(std::tuple(r.state.BeamModifier[1], r.Alpha().CalculatedWeaponDPS[4].caption()), std::tuple(1.0f, ""));
-    Calculator h;
+    Program h;
     PlainCustom(h);
     h.state.CannonModifier[2] = 0.5f;
     ModifiedDPS(h, 2);
@@ -355,10 +355,10 @@ TEST(Modifiers, WeaponSkillBonus) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         for (int i = 1; i <= 8; ++i)
             c.Alpha().WeaponSkill[i].setText(k.boxes[i]);
-        EXPECT_EQ(WeaponSkillBonus(c, k.kind, 1), k.bonus) << k.name;
+        EXPECT_EQ(WeaponSkillBonus(c, static_cast<BonusKind>(k.kind), 1), k.bonus) << k.name;
     }
 }
 
@@ -378,19 +378,19 @@ TEST(Modifiers, ConsoleBonus) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         VesselSettings& a = c.Alpha();
         a.TacticalConsole[2].setIndex(k.console);
         a.TacticalConsoleMark[2].setIndex(k.mark);
         a.TacticalConsoleRarity[2].setIndex(k.rarity);
         for (int i = 1; i <= 4; ++i)
             a.TacticalConsoleEquipped[i].setValue(i == 2 ? k.equipped : 0);
-        EXPECT_EQ(ConsoleBonus(c, k.kind, 1), k.bonus) << k.name;
+        EXPECT_EQ(ConsoleBonus(c, static_cast<BonusKind>(k.kind), 1), k.bonus) << k.name;
     }
 }
 
 TEST(Modifiers, ResetModifierReturnsToOne) {
-    Calculator c;
+    Program c;
     PlainCustom(c);
     ASSERT_NE(c.state.BeamModifier[1], 1.0f);
     // Back in relative mode nothing recomputes the modifiers afterwards.

@@ -10,7 +10,8 @@ namespace {
 
 float Dps(Calculator& c, int dhc, int dc, int dbb, int cannons, int arrays, int turrets, int shuttles, int power = 100,
           int distance = 0, bool noSkills = false) {
-    return CalculateDPS(c, dhc, dc, dbb, cannons, arrays, turrets, shuttles, power, distance, 1, noSkills);
+    const WeaponCounts n{dhc, dc, dbb, cannons, arrays, turrets, shuttles};
+    return CalculateDPS(c, {n, power, distance}, 1, noSkills ? SkillEffect::Ignored : SkillEffect::Counted);
 }
 
 TEST(DpwCurves, BeamArrayCheckTable) {
@@ -80,7 +81,7 @@ TEST(DpsAssembly, DefaultSettingsAtFullPower) {
         {"eight with dhc", 1, 0, 0, 3, 0, 4, 0, -1.0f},
     };
     // clang-format on
-    Calculator c;
+    Program c;
     for (const Case& l : cases)
         EXPECT_EQ(Dps(c, l.dhc, l.dc, l.dbb, l.cannons, l.arrays, l.turrets, l.shuttles), l.expected) << l.name;
     EXPECT_GT(Dps(c, 0, 0, 0, 0, 4, 4, 0), 0.0f) << "eight without dual cannons have data";
@@ -92,9 +93,10 @@ TEST(DpsAssembly, RangeFactors) {
         float expected;
     } cases[] = {{0, 1, 1.0f}, {1, 1, 0.9611111f}, {9, 1, 0.65f}, {1, 2, 1.0f}, {2, 2, 0.91875f}, {9, 2, 0.35f}};
     for (const Case& k : cases)
-        EXPECT_EQ(GetRangeMod(k.distance, k.group), k.expected) << k.distance << "/" << k.group;
+        EXPECT_EQ(GetRangeMod(k.distance, static_cast<RangeGroup>(k.group)), k.expected)
+            << k.distance << "/" << k.group;
     // Cannons lose nothing at 2 km; a lone weapon is summed in single precision.
-    Calculator c;
+    Program c;
     EXPECT_EQ(Dps(c, 0, 0, 0, 1, 0, 0, 0, 100, 1), Dps(c, 0, 0, 0, 1, 0, 0, 0, 100, 0));
     EXPECT_EQ(Dps(c, 0, 0, 0, 0, 1, 0, 0, 100, 1), Round(96.735f * 0.9611111f * 1.0f * 1.0f * 1.03375f, 3));
 }
@@ -114,21 +116,22 @@ TEST(DpsAssembly, CriticalMultiplier) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         VesselSettings& a = c.Alpha();
         a.CriticalSettings.setValue(k.criticalSettings);
         a.CriticalSkill[1].setText(k.vectors);
         a.CriticalSkill[3].setText(k.strategy);
         a.CriticalItem.setIndex(k.item);
-        EXPECT_EQ(CriticalMultiplier(c, 1, k.boosted, 0.0f, 0.0f), k.expected) << k.name;
+        EXPECT_EQ(CriticalMultiplier(c, 1, k.boosted ? Severity::Boosted : Severity::Plain, 0.0f, 0.0f), k.expected)
+            << k.name;
     }
     // Weapon mods count only outside relative mode.
-    Calculator c;
+    Program c;
     c.Alpha().WeaponMod[1].setIndex(2);
     c.Alpha().WeaponMod[2].setIndex(3);
-    EXPECT_EQ(CriticalMultiplier(c, 1, false, 0.0f, 0.0f), 1.03375f);
+    EXPECT_EQ(CriticalMultiplier(c, 1, Severity::Plain, 0.0f, 0.0f), 1.03375f);
     c.Alpha().RelativeDPS.setValue(0);
-    EXPECT_EQ(CriticalMultiplier(c, 1, false, 0.0f, 0.0f), (0.045f + 0.02f) * (0.75f + 0.2f) + 1.0f);
+    EXPECT_EQ(CriticalMultiplier(c, 1, Severity::Plain, 0.0f, 0.0f), (0.045f + 0.02f) * (0.75f + 0.2f) + 1.0f);
 }
 
 TEST(DpsAssembly, SkillFactors) {
@@ -145,15 +148,16 @@ TEST(DpsAssembly, SkillFactors) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         std::tie(c.state.BeamSkill[1], c.state.RapidFire[1], c.state.ScatterVolley[1], c.state.SkillTargets[1]) =
             std::tuple(k.beam, k.rapid, k.scatter, k.targets);
-        EXPECT_EQ(std::tuple(BeamSkillModifier(c, 1), CannonSkillModifier(c, 1, false), CannonSkillModifier(c, 1, true)),
+        EXPECT_EQ(std::tuple(BeamSkillModifier(c, 1), CannonSkillModifier(c, 1, CannonMount::Fixed),
+                             CannonSkillModifier(c, 1, CannonMount::Turret)),
                   std::tuple(k.beamFactor, k.cannonFactor, k.turretFactor))
             << k.name;
     }
     // The no-skills pass ignores activated skills.
-    Calculator c;
+    Program c;
     const float plain = Dps(c, 0, 1, 1, 0, 0, 1, 0, 100, 0, true);
     c.state.RapidFire[1] = 3;
     c.state.BeamSkill[1] = 2;
@@ -168,7 +172,7 @@ TEST(DpsAssembly, OmegaRangeFollowsAlphaOnItsSameAsRow) {
         int alpha, omega, expected;
     } cases[] = {{"same as alpha", 3, 0, 3}, {"own row", 3, 1, 0}, {"own last row", 0, 10, 9}, {"none", 0, -1, 0}};
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         c.main.TargetDistance[1].setIndex(k.alpha);
         c.main.TargetDistance[2].setIndex(k.omega);
         EXPECT_EQ(GetRange(c, 2), k.expected) << k.name;
@@ -204,7 +208,7 @@ TEST(Burst, TorpedoSkill) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         Load(c, k.type, k.skills);
         EXPECT_EQ(GetTorpedoSkill(c, 1), k.factor) << k.name;
     }
@@ -227,45 +231,46 @@ TEST(Burst, Values) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         Load(c, k.type, k.skills, k.relative);
         if (k.relative) {
             // Relative mode must not look at the custom damage.
             c.state.TorpedoDamage[1] = 99999.0f;
             c.state.MineDamage[1] = 99999.0f;
-            EXPECT_EQ(CalculateBurst(c, k.torpedoes, k.mines, 0, 0, 0, 1), k.burst) << k.name;
+            EXPECT_EQ(CalculateBurst(c, {k.torpedoes, k.mines, 0, 0, 0}, 1), k.burst) << k.name;
         } else {
             c.state.TorpedoDamage[1] = 1000.0f;
-            const float ratio = CalculateBurst(c, 1, 0, 0, 0, 0, 1) / (1000.0f * CriticalMultiplier(c, 1, false, 0, 0));
+            const float ratio =
+                CalculateBurst(c, {1, 0, 0, 0, 0}, 1) / (1000.0f * CriticalMultiplier(c, 1, Severity::Plain, 0, 0));
             EXPECT_NEAR(ratio, k.burst, 2e-6 * k.burst) << k.name;
         }
     }
 }
 
 TEST(Burst, OverloadUsesOneWeaponInOrder) {
-    Calculator c;
+    Program c;
     Load(c, kQuantum, {.overload = 1});
-    const float bank = CalculateBurst(c, 0, 0, 1, 0, 0, 1);
-    const float array = CalculateBurst(c, 0, 0, 0, 1, 0, 1);
-    const float shuttle = CalculateBurst(c, 0, 0, 0, 0, 1, 1);
+    const float bank = CalculateBurst(c, {0, 0, 1, 0, 0}, 1);
+    const float array = CalculateBurst(c, {0, 0, 0, 1, 0}, 1);
+    const float shuttle = CalculateBurst(c, {0, 0, 0, 0, 1}, 1);
     EXPECT_EQ(array, 849.43f);
     EXPECT_GT(bank, 0.0f);
     EXPECT_NE(bank, array);
-    EXPECT_EQ(CalculateBurst(c, 0, 0, 1, 1, 1, 1), bank) << "the dual beam bank overloads";
-    EXPECT_EQ(CalculateBurst(c, 0, 0, 0, 2, 1, 1), array) << "then a beam array";
-    EXPECT_EQ(CalculateBurst(c, 0, 0, 0, 0, 3, 1), shuttle) << "then a shuttle array";
-    EXPECT_EQ(CalculateBurst(c, 1, 0, 0, 0, 0, 1), 1092.354f) << "no beam, no overload";
+    EXPECT_EQ(CalculateBurst(c, {0, 0, 1, 1, 1}, 1), bank) << "the dual beam bank overloads";
+    EXPECT_EQ(CalculateBurst(c, {0, 0, 0, 2, 1}, 1), array) << "then a beam array";
+    EXPECT_EQ(CalculateBurst(c, {0, 0, 0, 0, 3}, 1), shuttle) << "then a shuttle array";
+    EXPECT_EQ(CalculateBurst(c, {1, 0, 0, 0, 0}, 1), 1092.354f) << "no beam, no overload";
 }
 
 TEST(Burst, OverloadMeetsResistanceAndAccuracyTwice) {
-    Calculator c;
+    Program c;
     Load(c, kQuantum, {.overload = 2});
-    const float plain = CalculateBurst(c, 0, 0, 0, 1, 0, 1);
+    const float plain = CalculateBurst(c, {0, 0, 0, 1, 0}, 1);
     c.state.ResistanceFactor[1] = 0.5f;
-    EXPECT_NEAR(CalculateBurst(c, 0, 0, 0, 1, 0, 1), plain * 0.25f, 0.002f);
+    EXPECT_NEAR(CalculateBurst(c, {0, 0, 0, 1, 0}, 1), plain * 0.25f, 0.002f);
     c.state.ResistanceFactor[1] = 1.0f;
     c.state.AccuracyFactor[1] = 0.5f;
-    EXPECT_NEAR(CalculateBurst(c, 0, 0, 0, 1, 0, 1), plain * 0.25f, 0.002f);
+    EXPECT_NEAR(CalculateBurst(c, {0, 0, 0, 1, 0}, 1), plain * 0.25f, 0.002f);
 }
 
 TEST(Burst, ToolTip) {
@@ -285,55 +290,48 @@ TEST(Burst, ToolTip) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         Load(c, k.type, k.skills);
-        EXPECT_EQ(BurstToolTip(c, k.torpedoes, k.mines, 0, k.arrays, 0, 1), k.text) << k.name;
+        EXPECT_EQ(BurstToolTip(c, {k.torpedoes, k.mines, 0, k.arrays, 0}, 1), k.text) << k.name;
     }
 }
 
-struct Counts {
-    int dhc = 0, dc = 0, dbb = 0, cannons = 0, arrays = 0, turrets = 0, shuttles = 0;
-};
-
-std::string Tip(Calculator& c, const Counts& n) {
-    return CalculateToolTip(c, n.dhc, n.dc, n.dbb, n.cannons, n.arrays, n.turrets, n.shuttles, 100, 0, 1);
-}
+std::string Tip(Calculator& c, const WeaponCounts& n) { return CalculateToolTip(c, {n, 100, 0}, 1); }
 
 TEST(ToolTips, Texts) {
     // clang-format off
-    struct Case { const char* name; void (*setUp)(CalculatorState&); Counts counts; const char* pattern; /* whole text; N: a number in signed form, @: the box's value */ } cases[] = {
+    struct Case { const char* name; void (*setUp)(CalculatorState&); WeaponCounts counts; const char* pattern; /* whole text; N: a number in signed form, @: the box's value */ } cases[] = {
         {"no weapon", [](CalculatorState&) {}, {}, ""},
-        {"one array", [](CalculatorState&) {}, {.arrays = 1}, "1 Beam Array: 100"},
-        {"below one", [](CalculatorState& s) { s.AccuracyFactor[1] = 0.005f; }, {.arrays = 1}, "1 Beam Array: .5"},
-        {"1 dhc", [](CalculatorState&) {}, {.dhc = 1}, "1 Dual Heavy Cannons:@"},
-        {"3 dhc", [](CalculatorState&) {}, {.dhc = 3}, "3 Dual Heavy Cannons:@"},
-        {"2 dc", [](CalculatorState&) {}, {.dc = 2}, "2 Dual Cannons:@"},
-        {"1 dbb", [](CalculatorState&) {}, {.dbb = 1}, "1 Dual Beam Bank:@"},
-        {"2 dbb", [](CalculatorState&) {}, {.dbb = 2}, "2 Dual Beam Banks:@"},
+        {"one array", [](CalculatorState&) {}, {.beamArrays = 1}, "1 Beam Array: 100"},
+        {"below one", [](CalculatorState& s) { s.AccuracyFactor[1] = 0.005f; }, {.beamArrays = 1}, "1 Beam Array: .5"},
+        {"1 dhc", [](CalculatorState&) {}, {.dualHeavyCannons = 1}, "1 Dual Heavy Cannons:@"},
+        {"3 dhc", [](CalculatorState&) {}, {.dualHeavyCannons = 3}, "3 Dual Heavy Cannons:@"},
+        {"2 dc", [](CalculatorState&) {}, {.dualCannons = 2}, "2 Dual Cannons:@"},
+        {"1 dbb", [](CalculatorState&) {}, {.dualBeamBanks = 1}, "1 Dual Beam Bank:@"},
+        {"2 dbb", [](CalculatorState&) {}, {.dualBeamBanks = 2}, "2 Dual Beam Banks:@"},
         {"1 cannon", [](CalculatorState&) {}, {.cannons = 1}, "1 Cannon:@"},
         {"4 cannons", [](CalculatorState&) {}, {.cannons = 4}, "4 Cannons:@"},
-        {"8 arrays", [](CalculatorState&) {}, {.arrays = 8}, "8 Beam Arrays:@"},
+        {"8 arrays", [](CalculatorState&) {}, {.beamArrays = 8}, "8 Beam Arrays:@"},
         {"1 turret", [](CalculatorState&) {}, {.turrets = 1}, "1 Turret:@"},
         {"3 turrets", [](CalculatorState&) {}, {.turrets = 3}, "3 Turrets:@"},
-        {"2 shuttle arrays", [](CalculatorState&) {}, {.shuttles = 2}, "2 Shuttle Beam Arrays:@"},
-        {"three kinds in order", [](CalculatorState&) {}, {.dc = 2, .cannons = 1, .turrets = 1}, "2 Dual Cannons: N, 1 Cannon: N, 1 Turret: N"},
+        {"2 shuttle arrays", [](CalculatorState&) {}, {.shuttleBeamArrays = 2}, "2 Shuttle Beam Arrays:@"},
+        {"three kinds in order", [](CalculatorState&) {}, {.dualCannons = 2, .cannons = 1, .turrets = 1}, "2 Dual Cannons: N, 1 Cannon: N, 1 Turret: N"},
         {"all seven in order", [](CalculatorState&) {}, {1, 1, 1, 1, 1, 1, 1}, "1 Dual Heavy Cannons: N, 1 Dual Cannons: N, 1 Dual Beam Bank: N, 1 Cannon: N, 1 Beam Array: N, 1 Turret: N, 1 Shuttle Beam Array: N"},
-        {"FAW, one target", [](CalculatorState& s) { s.BeamSkill[1] = 2; }, {.arrays = 2}, "2 Beam Arrays \\(Fire At Will 2, 1 Target\\): N"},
-        {"FAW, every target", [](CalculatorState& s) { s.BeamSkill[1] = 3; s.SkillTargets[1] = 5; }, {.shuttles = 2}, "2 Shuttle Beam Arrays \\(Fire At Will 3, 5 Targets\\): N"},
-        {"RF alone of both", [](CalculatorState& s) { s.RapidFire[1] = 3; s.ScatterVolley[1] = 1; }, {.dc = 2}, "2 Dual Cannons \\(Rapid Fire 3\\): N"},
+        {"FAW, one target", [](CalculatorState& s) { s.BeamSkill[1] = 2; }, {.beamArrays = 2}, "2 Beam Arrays \\(Fire At Will 2, 1 Target\\): N"},
+        {"FAW, every target", [](CalculatorState& s) { s.BeamSkill[1] = 3; s.SkillTargets[1] = 5; }, {.shuttleBeamArrays = 2}, "2 Shuttle Beam Arrays \\(Fire At Will 3, 5 Targets\\): N"},
+        {"RF alone of both", [](CalculatorState& s) { s.RapidFire[1] = 3; s.ScatterVolley[1] = 1; }, {.dualCannons = 2}, "2 Dual Cannons \\(Rapid Fire 3\\): N"},
         {"SV, one target", [](CalculatorState& s) { s.ScatterVolley[1] = 2; }, {.cannons = 1}, "1 Cannon \\(Scatter Volley 2, 1 Target\\): N"},
         {"SV, three of five", [](CalculatorState& s) { s.ScatterVolley[1] = 1; s.SkillTargets[1] = 5; }, {.turrets = 3}, "3 Turrets \\(Scatter Volley 1, 3 Targets\\): N"},
-        {"cannon skills spare beams", [](CalculatorState& s) { s.RapidFire[1] = 1; }, {.dbb = 1, .cannons = 1}, "1 Dual Beam Bank: N, 1 Cannon \\(Rapid Fire 1\\): N"},
-        {"dc without data: 0", [](CalculatorState&) {}, {.dc = 1, .arrays = 7}, "1 Dual Cannons: 0, 7 Beam Arrays: N"},
+        {"cannon skills spare beams", [](CalculatorState& s) { s.RapidFire[1] = 1; }, {.dualBeamBanks = 1, .cannons = 1}, "1 Dual Beam Bank: N, 1 Cannon \\(Rapid Fire 1\\): N"},
+        {"dc without data: 0", [](CalculatorState&) {}, {.dualCannons = 1, .beamArrays = 7}, "1 Dual Cannons: 0, 7 Beam Arrays: N"},
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         k.setUp(c.state);
-        const Counts& n = k.counts;
+        const WeaponCounts& n = k.counts;
         // With one kind in the row and relative mode, the entry is the box's value.
-        const float box =
-            CalculateDPS(c, n.dhc, n.dc, n.dbb, n.cannons, n.arrays, n.turrets, n.shuttles, 100, 0, 1, false);
+        const float box = CalculateDPS(c, {n, 100, 0}, 1, SkillEffect::Counted);
         std::string pattern = std::regex_replace(k.pattern, std::regex("N"), "[0-9]*\\.?[0-9]+");
         pattern =
             std::regex_replace(pattern, std::regex("@"), std::regex_replace(SignedText(box), std::regex("\\."), "\\."));
@@ -342,10 +340,10 @@ TEST(ToolTips, Texts) {
     }
     // Custom mode adds to the critical factor: 96.735 x (1.03375 + 0.03375),
     // where the box multiplies by 1.03375.
-    Calculator c;
+    Program c;
     c.Alpha().RelativeDPS.setValue(0);
     c.state.BeamModifier[1] = 1.0f;
-    EXPECT_EQ(Tip(c, {.arrays = 1}), "1 Beam Array: 103.265");
+    EXPECT_EQ(Tip(c, {.beamArrays = 1}), "1 Beam Array: 103.265");
 }
 
 struct Levels {
@@ -395,7 +393,7 @@ TEST(SkillState, Levels) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         k.setUp(c.skills[1]);
         SkillUpdate(c, 1);
         EXPECT_EQ(Read(c.state, 1), k.expected) << k.name;
@@ -403,7 +401,7 @@ TEST(SkillState, Levels) {
 }
 
 TEST(SkillState, MirroredOmegaKeepsItsOwnAttackPatternAlphaLevel) {
-    Calculator c;
+    Program c;
     VesselSkills& a = c.skills[1];
     VesselSkills& o = c.skills[2];
     Tick(a.CannonSkillActivated, a.CannonSkillLevel, 1);

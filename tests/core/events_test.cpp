@@ -40,7 +40,7 @@ TEST(Shuttles, RankRows) {
     };
     // clang-format on
     for (const auto& k : cases) {
-        Calculator c;
+        Program c;
         Shuttle(c, k.faction, k.rankRow);
         const List& rank = c.main.ShuttleRank[1];
         EXPECT_EQ(std::tuple(rank.rows(), rank.index()), std::tuple(k.rows, 0)) << k.name;
@@ -50,7 +50,7 @@ TEST(Shuttles, RankRows) {
 }
 
 TEST(Shuttles, RankSurvivesTheArraysAbsenceAndRaisesTheResult) {
-    Calculator c;
+    Program c;
     Shuttle(c, 0, 3);
     const float low = c.state.ArcDPS[0][1];
     c.main.ShuttleRank[1].click(6);
@@ -72,7 +72,7 @@ TEST(Shuttles, Marks) {
         int rankRow, mark; // rank row -1: unrestricted
     } byRank[] = {{-1, 12}, {0, 2}, {1, 2}, {2, 4}, {3, 6}, {4, 8}, {5, 10}, {6, 12}, {7, 12}};
     for (const auto& k : byRank) {
-        Calculator c;
+        Program c;
         if (k.rankRow >= 0) Captain(c, 0, k.rankRow);
         EXPECT_EQ(GetMark(c, 1), k.mark) << "relative mode, rank row " << k.rankRow;
     }
@@ -80,7 +80,7 @@ TEST(Shuttles, Marks) {
         int row, mark;
     } listed[] = {{0, 12}, {1, 0}, {2, 1}, {13, 12}}; // Max, Standard Issue, Mark I, Mark XII
     for (const auto& k : listed) {
-        Calculator c;
+        Program c;
         c.Alpha().RelativeDPS.setValue(0);
         c.Alpha().WeaponMark.setIndex(k.row);
         EXPECT_EQ(GetMark(c, 1), k.mark) << "row " << k.row;
@@ -90,7 +90,7 @@ TEST(Shuttles, Marks) {
         float mark;
     } graded[] = {{-1, 0, 9.9f}, {2, 0, 1.9f}, {3, 4, 4.7f}, {6, 2, 9.3f}};
     for (const auto& k : graded) {
-        Calculator c;
+        Program c;
         Shuttle(c, 0, k.rankRow, k.grade);
         EXPECT_FLOAT_EQ(GetRankMark(c, 1), k.mark) << k.rankRow << " grade " << k.grade;
     }
@@ -111,14 +111,14 @@ TEST(Shuttles, ArrayFactorInRelativeMode) {
     };
     // clang-format on
     for (const auto& k : cases) {
-        Calculator c;
+        Program c;
         Shuttle(c, 0, k.rankRow, k.grade, k.rare);
         EXPECT_NEAR(ShuttleArrayModifier(c, 1, 1), k.factor, 1e-6) << k.name;
     }
 }
 
 TEST(Shuttles, ArrayFactorFromTheBeamModifier) {
-    Calculator c;
+    Program c;
     c.Alpha().RelativeDPS.setValue(0);
     c.Alpha().WeaponMark.setIndex(0);
     c.state.BeamModifier[1] = 1.5f;
@@ -139,8 +139,9 @@ TEST(Shuttles, PartialCriticalBonus) {
     };
     // clang-format on
     for (const auto& k : cases) {
-        Calculator c;
-        EXPECT_NEAR(PartialCriticalBonus(c, 1, false, k.chance, k.severity, k.share, k.weapons), k.expected, 1e-6)
+        Program c;
+        EXPECT_NEAR(PartialCriticalBonus(c, 1, {Severity::Plain, k.chance, k.severity, k.share, k.weapons}), k.expected,
+                    1e-6)
             << k.name;
     }
 }
@@ -167,7 +168,7 @@ TEST(MainWindowEvents, Note) {
     // clang-format on
     const char* const none[4] = {};
     for (const auto& k : cases) {
-        Calculator c;
+        Program c;
         if (k.restricted) Captain(c, 0, 4);
         c.state.TacticalTeam[1] = k.tacticalTeam ? 1 : 0;
         Fit(c, k.forward, k.fourTurrets ? turrets : none);
@@ -176,7 +177,7 @@ TEST(MainWindowEvents, Note) {
         if (!k.text.empty()) { EXPECT_EQ(c.main.Note.caption(), k.text) << k.name; }
     }
     // The historical vessel tells its story.
-    Calculator c;
+    Program c;
     c.main.ShipClass[1].click(RowOf(c.main.ShipClass[1], "Federation"));
     const std::string lore = LoreText(GetTier(c, 1), GetSubclass(c, 1));
     EXPECT_FALSE(lore.empty());
@@ -192,7 +193,7 @@ TEST(MainWindowEvents, OmegaControlsRestWhileOmegaIsHidden) {
         [](Calculator& c) { c.main.ShipClass[2].click(2); },
     };
     for (auto act : acts) {
-        Calculator c;
+        Program c;
         c.main.Forward[1].setText("Beam Array");
         act(c);
         // Nothing recalculated: Alpha's array has not been counted.
@@ -201,10 +202,10 @@ TEST(MainWindowEvents, OmegaControlsRestWhileOmegaIsHidden) {
 }
 
 TEST(MainWindowEvents, PortsDistanceAndPowerRecalculate) {
-    Calculator c;
+    Program c;
     c.main.Forward[3].setText("Beam Array");
     c.main.Forward[3].setEnabled(false);
-    PortClicked(c, 1, true, 3);
+    PortClicked(c, 1, Side::Forward, 3);
     EXPECT_EQ(c.state.WeaponCount[5][1], 0) << "a disabled port does nothing";
     c.main.Forward[3].setText("Empty");
     c.main.Forward[2].click(RowOf(c.main.Forward[2], "Beam Array"));
@@ -212,10 +213,10 @@ TEST(MainWindowEvents, PortsDistanceAndPowerRecalculate) {
     EXPECT_TRUE(c.main.FiringArcDPS[4].visible());
     EXPECT_EQ(c.main.FiringArcDPS[4].caption(), "100");
     c.main.TargetDistance[1].click(1);
-    EXPECT_EQ(c.state.ArcDPS[4][1], CalculateDPS(c, 0, 0, 0, 0, 1, 0, 0, 100, 1, 1, false));
+    EXPECT_EQ(c.state.ArcDPS[4][1], CalculateDPS(c, {{.beamArrays = 1}, 100, 1}, 1, SkillEffect::Counted));
     c.main.TargetDistance[1].click(0);
     c.main.PowerLevel[1].click(RowOf(c.main.PowerLevel[1], "50"));
-    EXPECT_EQ(c.state.ArcDPS[4][1], CalculateDPS(c, 0, 0, 0, 0, 1, 0, 0, 50, 0, 1, false));
+    EXPECT_EQ(c.state.ArcDPS[4][1], CalculateDPS(c, {{.beamArrays = 1}, 50, 0}, 1, SkillEffect::Counted));
     EXPECT_EQ(c.main.PowerLevel[2].row(0), "Same As Alpha- 50");
     // Reset brings the hints back.
     c.main.Rear[4].setText("Turret");
@@ -229,7 +230,7 @@ TEST(MainWindowEvents, PortsDistanceAndPowerRecalculate) {
 }
 
 TEST(MainWindowEvents, SimplifiedCaptions) {
-    Calculator c;
+    Program c;
     const int boxes[3] = {2, 7, 9};
     const char* simple[3] = {"Forward", "Side", "Rear"};
     const char* full[3] = {"Forward 110", "Broadside", "Rear 110"};
@@ -253,13 +254,13 @@ std::vector<Control*> OmegaColumn(MainSelection& m) {
 }
 
 TEST(StartUp, FreshCalculator) {
-    Calculator c;
+    Program c;
     EXPECT_EQ(c.state.Comparing, 0);
     for (int row = 0; row <= 7; ++row)
         EXPECT_EQ(c.state.ArcDPS[row][1] + c.state.ArcDPS[row][2], 0.0f) << row;
     for (int i = 0; i <= 13; ++i)
         EXPECT_FALSE(c.main.FiringArcDPS[i].visible() || c.main.CFiringArcDPS[i].visible()) << i;
-    EXPECT_EQ(std::tuple(GetPowerLevel(c, 1, false), GetPowerLevel(c, 1, true)), std::tuple(100, 100));
+    EXPECT_EQ(std::tuple(GetPowerLevel(c, 1, Bonus::Without), GetPowerLevel(c, 1, Bonus::With)), std::tuple(100, 100));
     EXPECT_EQ(c.main.PowerLevel[1].rows(), (Rows{"35", "50", "75", "100", "125"}));
     EXPECT_EQ(c.main.PowerLevel[1].text(), "100");
     EXPECT_TRUE(c.main.PowerLevel[1].enabled());
@@ -271,12 +272,13 @@ TEST(StartUp, FreshCalculator) {
     // A hidden Omega reads no power of its own.
     for (int i = 0; i < c.main.PowerLevel[2].count(); ++i) {
         c.main.PowerLevel[2].setIndex(i);
-        EXPECT_EQ(std::tuple(GetPowerLevel(c, 2, false), GetPowerLevel(c, 2, true)), std::tuple(35, 35)) << i;
+        EXPECT_EQ(std::tuple(GetPowerLevel(c, 2, Bonus::Without), GetPowerLevel(c, 2, Bonus::With)), std::tuple(35, 35))
+            << i;
     }
 }
 
 TEST(Comparison, CompareShowsOmega) {
-    Calculator c;
+    Program c;
     MainSelection& m = c.main;
     m.Compare.press();
     EXPECT_NE(c.state.Comparing, 0);
@@ -289,11 +291,11 @@ TEST(Comparison, CompareShowsOmega) {
     EXPECT_EQ(m.Note.left(), 3720);
     for (int i = 1; i <= 4; ++i)
         EXPECT_TRUE(c.Alpha().CopySettings[i].visible()) << i;
-    EXPECT_EQ(GetPowerLevel(c, 2, false), 100);
+    EXPECT_EQ(GetPowerLevel(c, 2, Bonus::Without), 100);
 }
 
 TEST(Comparison, HideCompareResetsOmega) {
-    Calculator c;
+    Program c;
     MainSelection& m = c.main;
     m.Compare.press();
     m.Forward[1].setText("Beam Array");
@@ -342,7 +344,7 @@ TEST(Comparison, HideCompareResetsOmega) {
 }
 
 TEST(Comparison, HideCompareKeepsOmegasTierRow) {
-    Calculator c;
+    Program c;
     c.main.Compare.press();
     c.main.ShipTier[2].click(2);
     const int tier = c.main.ShipTier[2].index();
@@ -351,7 +353,7 @@ TEST(Comparison, HideCompareKeepsOmegasTierRow) {
 }
 
 TEST(Comparison, OmegaFollowsAlphaOnItsSameAsRows) {
-    Calculator c;
+    Program c;
     c.main.Compare.press();
     c.main.Forward[1].setText("Beam Array");
     c.main.CForward[1].setText("Beam Array");
@@ -367,19 +369,19 @@ using testing::RowOf;
 void Extrapolate(Calculator& c, Vessel v, const char* equipment) {
     c.settings[v].ExtrapolatePower.setValue(1);
     c.settings[v].PowerSkill[5].setText(equipment);
-    CalculatePower(c, v, true);
+    CalculatePower(c, v, Rebuild::Always);
 }
 
 TEST(PowerModel, TestedLevelsWithoutExtrapolation) {
-    Calculator c;
+    Program c;
     const int expected[5] = {35, 50, 75, 100, 125};
     for (int i = 0; i < 5; ++i) {
         c.main.PowerLevel[1].click(i);
-        EXPECT_EQ(GetPowerLevel(c, 1, false), expected[i]);
-        EXPECT_EQ(GetPowerLevel(c, 1, true), expected[i]);
+        EXPECT_EQ(GetPowerLevel(c, 1, Bonus::Without), expected[i]);
+        EXPECT_EQ(GetPowerLevel(c, 1, Bonus::With), expected[i]);
     }
     c.main.PowerLevel[1].setText("abc");
-    EXPECT_EQ(GetPowerLevel(c, 1, false), 35) << "nothing selected";
+    EXPECT_EQ(GetPowerLevel(c, 1, Bonus::Without), 35) << "nothing selected";
 }
 
 TEST(PowerModel, ExtrapolatedRows) {
@@ -391,7 +393,7 @@ TEST(PowerModel, ExtrapolatedRows) {
     };
     // clang-format on
     for (const auto& k : cases) {
-        Calculator c;
+        Program c;
         Extrapolate(c, 1, k.equipment);
         const List& power = c.main.PowerLevel[1];
         for (const std::string& row : k.present)
@@ -401,10 +403,11 @@ TEST(PowerModel, ExtrapolatedRows) {
         EXPECT_EQ(power.row(0), k.first) << k.equipment;
     }
     // The extrapolated power is the actual power.
-    Calculator c;
+    Program c;
     Extrapolate(c, 1, "15");
-    EXPECT_EQ(std::tuple(c.main.PowerLevel[1].text(), GetPowerLevel(c, 1, false)), std::tuple("100 (115) est.", 100));
-    EXPECT_EQ(GetPowerLevel(c, 1, true), 115);
+    EXPECT_EQ(std::tuple(c.main.PowerLevel[1].text(), GetPowerLevel(c, 1, Bonus::Without)),
+              std::tuple("100 (115) est.", 100));
+    EXPECT_EQ(GetPowerLevel(c, 1, Bonus::With), 115);
     EXPECT_FLOAT_EQ(PowerBonusAt(c, 1, 100), 15.0f);
     c.settings[1].ExtrapolatePower.setValue(0);
     EXPECT_EQ(PowerBonusAt(c, 1, 100), 0.0f);
@@ -419,18 +422,18 @@ TEST(PowerModel, ShipBonusByClassAndTier) {
     };
     // clang-format on
     for (const auto& k : cases) {
-        Calculator c;
+        Program c;
         c.main.ShipClass[1].click(RowOf(c.main.ShipClass[1], k.shipClass));
         const List& tiers = c.main.ShipTier[1];
         for (int i = 0; i < tiers.count(); ++i)
             if (tiers.row(i).rfind(k.tier, 0) == 0) c.main.ShipTier[1].click(i);
         if (k.subclass > 0) c.main.ShipSubclass[1].click(k.subclass);
         c.Alpha().ExtrapolatePower.setValue(1);
-        CalculatePower(c, 1, true);
+        CalculatePower(c, 1, Rebuild::Always);
         EXPECT_EQ(c.state.ShipPowerBonus[1], k.bonus) << k.shipClass << ", " << k.tier << ", " << k.subclass;
         if (std::string(k.shipClass) == "Bird of Prey") {
             EXPECT_EQ(c.main.PowerLevel[1].text(), "100 (115) est.");
-            EXPECT_EQ(GetPowerLevel(c, 1, true), 115);
+            EXPECT_EQ(GetPowerLevel(c, 1, Bonus::With), 115);
         }
     }
 }
@@ -444,14 +447,14 @@ TEST(PowerModel, OmegaSnapsToATestedLevel) {
     };
     // clang-format on
     for (const auto& k : cases) {
-        Calculator c;
+        Program c;
         CompareClicked(c);
         Extrapolate(c, 1, "0");
         const int row = RowOf(c.main.PowerLevel[1], k.alphaRow);
         ASSERT_GE(row, 0) << k.alphaRow;
         c.main.PowerLevel[1].click(row);
         EXPECT_EQ(c.main.PowerLevel[2].index(), 0) << k.alphaRow;
-        EXPECT_EQ(GetPowerLevel(c, 2, true), k.omegaPower) << k.alphaRow;
+        EXPECT_EQ(GetPowerLevel(c, 2, Bonus::With), k.omegaPower) << k.alphaRow;
         EXPECT_EQ(c.main.PowerLevel[2].row(0), k.sameAsRow) << k.alphaRow;
     }
 }
@@ -466,7 +469,7 @@ TEST(PowerModel, BonusDisplay) {
     };
     // clang-format on
     for (const auto& k : cases) {
-        Calculator c;
+        Program c;
         VesselSettings& a = c.Alpha();
         c.main.PowerLevel[1].click(k.setting);
         for (int i = 1; i <= 5; ++i)
@@ -479,7 +482,7 @@ TEST(PowerModel, BonusDisplay) {
         EXPECT_EQ(a.PowerBonusLabel.caption(), k.label) << k.name;
     }
     // The low-setting skills act only below 75: (52 / 300 + 18 / 200) x 40.
-    Calculator c;
+    Program c;
     c.Alpha().ExtrapolatePower.setValue(1);
     c.Alpha().PowerSkill[1].setText("9");
     c.Alpha().PowerSkill[2].setText("9");

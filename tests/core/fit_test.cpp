@@ -1,5 +1,5 @@
-#include "engine/calculator.h"
 #include "mainwindow/layout.h"
+#include "program/program.h"
 
 #include <gtest/gtest.h>
 
@@ -94,9 +94,8 @@ TEST(PlaceAtStart, LeavesRoomForTheOtherWindows) {
 // On a whole calculator: the page comes back to the edge when a bar goes, and
 // a smaller range keeps it reachable.
 TEST(FitWindow, ThePageStaysReachable) {
-    Calculator c;
+    Program c;
     LayOutMainWindow(c.main);
-    WireScrollBars(c);
     c.workWidth = 9000;
     c.workHeight = 15600;
     FitWindow(c);
@@ -110,9 +109,8 @@ TEST(FitWindow, ThePageStaysReachable) {
     EXPECT_EQ(std::tuple(c.main.Contents.left(), c.main.Form1.width()), std::tuple(0, 9950));
     EXPECT_EQ(c.main.Form1.innerWidth(), 9950 - kFrameWidth);
 
-    Calculator d;
+    Program d;
     LayOutMainWindow(d.main);
-    WireScrollBars(d);
     d.workWidth = 8000;
     d.workHeight = 7000;
     FitWindow(d);
@@ -128,7 +126,7 @@ TEST(FitWindow, ThePageStaysReachable) {
 }
 
 TEST(FitWindow, MinimiseAndRestoreTakeTheSettingsWindows) {
-    Calculator c;
+    Program c;
     for (WindowState s : {WindowState::Minimised, WindowState::Normal}) {
         c.main.Form1.setState(s);
         FitWindow(c);

@@ -38,22 +38,22 @@ Rows Captions(const VesselSettings& s) {
 }
 
 TEST(Ports, DamageTypeWords) {
-    Calculator c;
-    EXPECT_EQ(GetDamageType(c, 1, 2), "Quantum ");
+    Program c;
+    EXPECT_EQ(GetDamageType(c, 1, DamageGroup::Projectile), "Quantum ");
     Quietly(c.Alpha().WeaponType[1], 3);
-    EXPECT_EQ(GetDamageType(c, 1, 1), "") << "relative mode has no energy type";
+    EXPECT_EQ(GetDamageType(c, 1, DamageGroup::Energy), "") << "relative mode has no energy type";
     Relative(c, 0);
-    EXPECT_EQ(GetDamageType(c, 1, 1), "Tetryon ");
+    EXPECT_EQ(GetDamageType(c, 1, DamageGroup::Energy), "Tetryon ");
     Quietly(c.Omega().WeaponType[1], 5);
-    EXPECT_EQ(GetDamageType(c, 2, 1), "Antiproton ");
+    EXPECT_EQ(GetDamageType(c, 2, DamageGroup::Energy), "Antiproton ");
     Quietly(c.Alpha().WeaponType[2], 4);
-    EXPECT_EQ(GetDamageType(c, 1, 2), "Transphasic ");
+    EXPECT_EQ(GetDamageType(c, 1, DamageGroup::Projectile), "Transphasic ");
     Quietly(c.Alpha().WeaponType[2], -1);
-    EXPECT_EQ(GetDamageType(c, 1, 2), "");
+    EXPECT_EQ(GetDamageType(c, 1, DamageGroup::Projectile), "");
 }
 
 TEST(Ports, RowsOfEachListKind) {
-    Calculator c;
+    Program c;
     DamageTypes(c, 0, 1);
     const Rows rear = {"Empty", "Phaser Beam Array", "Phaser Turret", "Quantum Torpedo Launcher",
                        "Quantum Mine Launcher"};
@@ -104,7 +104,7 @@ TEST(Ports, WeaponsAreSpeltAnewOnARebuild) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         DamageTypes(c, k.energy, k.projectile);
         c.main.Forward[3].setText(k.forwardBefore);
         c.main.Rear[3].setText(k.rearBefore);
@@ -113,7 +113,7 @@ TEST(Ports, WeaponsAreSpeltAnewOnARebuild) {
         EXPECT_EQ(c.main.Rear[3].text(), k.rearAfter) << k.name;
     }
     // A lost dual cannon stays a beam bank when the list comes back.
-    Calculator c;
+    Program c;
     DamageTypes(c, 1, 1);
     WeaponAdd(c, 1, 1);
     c.main.Forward[1].setText("Disruptor Dual Heavy Cannons");
@@ -124,7 +124,7 @@ TEST(Ports, WeaponsAreSpeltAnewOnARebuild) {
 }
 
 TEST(Ports, UnlockOpensOnlyThePortsOfTheShip) {
-    Calculator c;
+    Program c;
     int recalculations = 0;
     for (int i = 1; i <= 4; ++i) {
         c.main.Forward[i].setText("Beam Array");
@@ -154,7 +154,7 @@ TEST(Ports, UnlockOpensOnlyThePortsOfTheShip) {
 }
 
 TEST(WeaponType, StartUpSetsQuantumOnBothVessels) {
-    Calculator c;
+    Program c;
     // Its handler fitted Alpha's unrestricted tier 5 ship; Omega, not on
     // show, keeps its start rows.
     for (int i = 1; i <= 4; ++i) {
@@ -191,7 +191,7 @@ TEST(WeaponType, EnergyTypeNamesItsConsoleAndAccolade) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         ChooseType(c, 1, 1, 2); // away from the case first, so -1 is a change too
         ChooseType(c, 1, 1, k.index);
         EXPECT_EQ(c.Alpha().TacticalConsole[4].row(3), k.console) << k.index;
@@ -221,7 +221,7 @@ TEST(WeaponType, TypeSkillBoxOpensByRank) {
     // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
-        Calculator c;
+        Program c;
         AlphaCaptain(c, 0, k.rankRow);
         Relative(c, k.relative);
         Text& box = c.Alpha().WeaponSkill[k.k == 1 ? 4 : 8];
@@ -237,7 +237,7 @@ TEST(WeaponType, TypeSkillBoxOpensByRank) {
 TEST(WeaponType, ConsoleOnTheRewrittenRowKeepsItsPlace) {
     for (int relative : {0, 1}) {
         SCOPED_TRACE(relative);
-        Calculator c;
+        Program c;
         Relative(c, relative);
         VesselSettings& a = c.Alpha();
         Quietly(a.TacticalConsole[2], 6);
@@ -254,7 +254,7 @@ TEST(WeaponType, ConsoleOnTheRewrittenRowKeepsItsPlace) {
         EXPECT_FALSE(c.Omega().TacticalConsole[1].enabled());
     }
     // Custom mode names the types in the captions.
-    Calculator c;
+    Program c;
     Relative(c, 0);
     ChooseType(c, 1, 1, 0);
     const Rows named = {"Phaser Dual (Heavy) Cannons", "Dual Phaser Beam Bank", "Phaser Cannon",
@@ -264,7 +264,7 @@ TEST(WeaponType, ConsoleOnTheRewrittenRowKeepsItsPlace) {
 }
 
 TEST(WeaponType, OnlyAnEnabledListRefitsTheShipAndAFreeOmegaKeepsItsType) {
-    Calculator c;
+    Program c;
     c.Omega().SameAsAlpha.setHandler({});
     c.Omega().SameAsAlpha.setValue(0);
     c.Alpha().WeaponType[2].setIndex(0);

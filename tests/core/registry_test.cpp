@@ -1,4 +1,5 @@
-#include "engine/registry.h"
+#include "program/program.h"
+#include "program/registry.h"
 
 #include <gtest/gtest.h>
 
@@ -63,7 +64,7 @@ void ExpectCovered(const ControlRegistry& registry, const Record& record, const 
 }
 
 TEST(Registry, CoversEveryFieldOfEveryRecord) {
-    Calculator c;
+    Program c;
     const ControlRegistry registry(c);
     ExpectCovered(registry, c.main, "Form1");
     for (Vessel v = 1; v <= 2; ++v) {
@@ -86,7 +87,7 @@ TEST(Registry, CoversEveryFieldOfEveryRecord) {
 }
 
 TEST(Registry, NamesAreUniqueAndPointAtDistinctFields) {
-    Calculator c;
+    Program c;
     const ControlRegistry registry(c);
     std::set<std::string> names;
     std::set<std::uintptr_t> places;
@@ -97,7 +98,7 @@ TEST(Registry, NamesAreUniqueAndPointAtDistinctFields) {
 }
 
 TEST(Registry, FindsFieldsByTheProgramsNamesAndIndexBases) {
-    Calculator c;
+    Program c;
     const ControlRegistry registry(c);
     // clang-format off
     struct Case { const char* name; std::uintptr_t field; ValueKind kind; } cases[] = {

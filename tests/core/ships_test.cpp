@@ -32,7 +32,7 @@ TEST(Ships, ClassRowsByFactionAndLevel) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         AlphaCaptain(c, k.faction, k.rankRow);
         EXPECT_EQ(ClassRows(c, 1), k.expected) << k.faction << "/" << k.rankRow;
     }
@@ -98,7 +98,7 @@ TEST(Ships, PortsAndConsoleSlots) {
     // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
-        Calculator c;
+        Program c;
         AlphaCaptain(c, k.alphaFaction, 7);
         OmegaCaptain(c, 0, k.omegaFaction, k.omegaRank);
         AlphaShip(c, k.alphaFaction, k.alphaClass, k.alphaTier);
@@ -143,7 +143,7 @@ TEST(Factions, RankAndFactionOfBothVessels) {
     // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
-        Calculator c;
+        Program c;
         AlphaCaptain(c, k.alphaFaction, k.alphaRank);
         OmegaCaptain(c, k.omegaSame, k.omegaFaction, k.omegaRank);
         EXPECT_EQ(std::tuple(GetRank(c, 1), GetFaction(c, 1), GetRank(c, 2)), std::tuple(k.rank1, k.faction1, k.rank2));
@@ -181,7 +181,7 @@ TEST(Factions, OmegaClassOnItsSameAsRow) {
     for (const Case& k : cases) {
         SCOPED_TRACE(std::string(k.alphaClass) + ", " + k.alphaTier + " for Omega's faction row " +
                      std::to_string(k.omegaFaction));
-        Calculator c;
+        Program c;
         AlphaCaptain(c, k.alphaFaction, 7);
         OmegaCaptain(c, 0, k.omegaFaction, 0);
         AlphaShip(c, k.alphaFaction, k.alphaClass, k.alphaTier);
@@ -190,7 +190,7 @@ TEST(Factions, OmegaClassOnItsSameAsRow) {
         EXPECT_EQ(GetClass(c, 2), k.expected);
     }
     // The class text loses its leading blanks only.
-    Calculator c;
+    Program c;
     Select(c.main.ShipClass[1], "Shuttlecraft ");
     EXPECT_EQ(std::tuple(c.main.ShipClass[1].text(), GetClass(c, 1)), std::tuple("   Shuttlecraft ", "Shuttlecraft "));
     Quietly(c.main.ShipClass[1], -1);
@@ -213,7 +213,7 @@ TEST(Factions, TierFromTheListText) {
     // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
-        Calculator c;
+        Program c;
         AlphaCaptain(c, k.alphaRank < 0 ? -1 : 1, k.alphaRank);
         OmegaCaptain(c, 0, 0, k.omegaRank);
         AlphaShip(c, 1, k.alphaClass, k.alphaTier);
@@ -232,7 +232,7 @@ TEST(Factions, SubclassRowOfEachVessel) {
     // clang-format on
     const Rows names = {"Same As Alpha", "a", "b", "c"};
     for (const Case& k : cases) {
-        Calculator c;
+        Program c;
         Hold(c.main.ShipSubclass[1], Rows(names.begin() + 1, names.begin() + 1 + k.alphaRows), "");
         Quietly(c.main.ShipSubclass[1], k.alphaIndex);
         Hold(c.main.ShipSubclass[2], Rows(names.begin(), names.begin() + k.omegaRows), "");
@@ -257,7 +257,7 @@ TEST(Cascade, TierCarriesOverToTheNewClass) {
     // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
-        Calculator c;
+        Program c;
         AlphaCaptain(c, k.faction, k.rankRow);
         ApplyAlphaCaptain(c);
         ChooseClass(c, 1, k.fromClass);
@@ -284,7 +284,7 @@ TEST(Cascade, CaptainChangesRebuildTheClassList) {
     // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
-        Calculator c;
+        Program c;
         AlphaCaptain(c, k.faction, k.rankRow);
         ApplyAlphaCaptain(c);
         ChooseClass(c, 1, k.shipClass);
@@ -298,7 +298,7 @@ TEST(Cascade, CaptainChangesRebuildTheClassList) {
 }
 
 TEST(Cascade, SubclassBeyondTheNewListGoesToTheFirstRow) {
-    Calculator c;
+    Program c;
     ChooseClass(c, 1, "Cruiser");
     Quietly(c.main.ShipSubclass[1], 4);
     ShipControl(c);
@@ -313,7 +313,7 @@ TEST(Cascade, SubclassBeyondTheNewListGoesToTheFirstRow) {
 }
 
 TEST(Cascade, HistoricalVesselIsDrawnOnEveryRebuild) {
-    Calculator c;
+    Program c;
     ChooseClass(c, 1, "Federation");
     ChooseTier(c, 1, "Tier 4- Historical Vessel");
     std::set<int> drawn;
@@ -328,7 +328,7 @@ TEST(Cascade, HistoricalVesselIsDrawnOnEveryRebuild) {
 }
 
 TEST(Cascade, OmegaFollowsAlphaInTheSamePass) {
-    Calculator c;
+    Program c;
     c.state.Comparing = -1;
     ChooseClass(c, 1, "Bird of Prey");
     ChooseTier(c, 1, "Tier 1- B'rel Bird of Prey");
@@ -347,7 +347,7 @@ TEST(Cascade, OmegaFollowsAlphaInTheSamePass) {
 }
 
 TEST(Cascade, OmegasOwnClassStaysWhenAlphaChanges) {
-    Calculator c;
+    Program c;
     c.state.Comparing = -1;
     Select(c.main.ShipClass[2], "Raptor");
     ShipTierControl(c);
@@ -403,7 +403,7 @@ TEST(Cascade, ConsoleLimitOfTheShip) {
     // clang-format on
     for (const Case& k : cases) {
         SCOPED_TRACE(k.name);
-        Calculator c;
+        Program c;
         c.state.Comparing = -1;
         CustomMode(c);
         OmegaCaptain(c, k.sameAsAlpha, 0, 0);
@@ -423,7 +423,7 @@ TEST(Cascade, ConsoleLimitOfTheShip) {
 }
 
 TEST(Cascade, ShipChangeMatchesConsolesOnlyInCustomMode) {
-    Calculator c;
+    Program c;
     ChooseClass(c, 1, "Shuttlecraft");
     EXPECT_EQ(std::tuple(Equipped(c.Alpha()), c.Alpha().MatchConsoleLimit.caption()), std::tuple("1111", ""));
     CustomMode(c);

@@ -4,8 +4,29 @@
 // disabled, so no handler of another window runs; the tests then call the
 // cascade steps the way their real callers do.
 
-#include "engine/calculator.h"
+#include "catalogue/cascade.h"
+#include "catalogue/pictures.h"
+#include "catalogue/ports.h"
+#include "catalogue/ships.h"
+#include "engine/arcs.h"
+#include "engine/burst.h"
+#include "engine/combat.h"
+#include "engine/counting.h"
+#include "engine/dps.h"
+#include "engine/dpw.h"
+#include "engine/marks.h"
+#include "engine/modifiers.h"
 #include "engine/numbers.h"
+#include "engine/power.h"
+#include "engine/selection.h"
+#include "engine/skillstate.h"
+#include "mainwindow/compare.h"
+#include "mainwindow/events.h"
+#include "mainwindow/layout.h"
+#include "mainwindow/results.h"
+#include "mainwindow/tooltips.h"
+#include "program/program.h"
+#include "settings/settings.h"
 
 #include <memory>
 #include <string>

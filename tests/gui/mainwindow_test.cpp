@@ -2,12 +2,12 @@
 // that neither layout needs a scroll bar. Every action goes through the
 // widgets as a user's would: rows chosen in the drop-down, buttons clicked.
 
-#include "engine/calculator.h"
-#include "engine/registry.h"
 #include "gui/binding.h"
 #include "gui/twips.h"
 #include "mainwindow/layout.h"
 #include "mainwindow/view/mainwindow.h"
+#include "program/program.h"
+#include "program/registry.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -124,7 +124,7 @@ class MainWindowTest final : public QObject {
     Q_OBJECT
 
   private:
-    std::unique_ptr<Calculator> m_c;
+    std::unique_ptr<Program> m_c;
     std::unique_ptr<MainWindow> m_window;
 
     template <typename W> W* find(const QString& name) const { return m_window->findChild<W*>(name); }
@@ -154,7 +154,7 @@ class MainWindowTest final : public QObject {
 
   private Q_SLOTS:
     void init() {
-        m_c = std::make_unique<Calculator>();
+        m_c = std::make_unique<Program>();
         m_window = std::make_unique<MainWindow>(*m_c);
         ShowMainWindowAtStart(*m_c);
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));

@@ -3,10 +3,10 @@
 // The window must fit the screen, and the scroll bars must reach every part
 // of the page.
 
-#include "engine/calculator.h"
 #include "gui/twips.h"
 #include "mainwindow/layout.h"
 #include "mainwindow/view/mainwindow.h"
+#include "program/program.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -24,7 +24,7 @@ class WindowFitTest final : public QObject {
     Q_OBJECT
 
   private:
-    std::unique_ptr<Calculator> m_c;
+    std::unique_ptr<Program> m_c;
     std::unique_ptr<MainWindow> m_window;
 
     template <typename W = QWidget> W* find(const char* name) const {
@@ -50,7 +50,7 @@ class WindowFitTest final : public QObject {
 
   private Q_SLOTS:
     void init() {
-        m_c = std::make_unique<Calculator>();
+        m_c = std::make_unique<Program>();
         m_window = std::make_unique<MainWindow>(*m_c);
         ShowMainWindowAtStart(*m_c);
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));

@@ -3,9 +3,9 @@
 // the same on every machine, and drives each state through the fields, as a
 // user's clicks would.
 
-#include "engine/calculator.h"
 #include "mainwindow/layout.h"
 #include "mainwindow/view/mainwindow.h"
+#include "program/program.h"
 
 #include <QApplication>
 #include <QDir>
@@ -19,8 +19,8 @@
 
 namespace {
 
-using vantorel::Calculator;
 using vantorel::List;
+using vantorel::Program;
 
 std::string VirtualScreen() {
     const std::filesystem::path file = std::filesystem::temp_directory_path() / "vantorel-screenshots-screen.json";
@@ -69,7 +69,7 @@ int main(int argc, char* argv[]) {
     const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("docs/screenshots");
     QDir().mkpath(folder);
 
-    Calculator c;
+    Program c;
     vantorel::MainWindow window(c);
     vantorel::ShowMainWindowAtStart(c);
     vantorel::MainSelection& m = c.main;

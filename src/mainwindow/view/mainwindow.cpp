@@ -1,6 +1,6 @@
 #include "mainwindow/view/mainwindow.h"
 
-#include "engine/calculator.h"
+#include "engine/records.h"
 #include "gui/binding.h"
 #include "gui/listbox.h"
 #include "mainwindow/layout.h"

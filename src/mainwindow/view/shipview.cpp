@@ -1,6 +1,6 @@
 #include "mainwindow/view/shipview.h"
 
-#include "engine/calculator.h"
+#include "engine/records.h"
 #include "gui/twips.h"
 #include "mainwindow/shipimage.h"
 
@@ -9,7 +9,6 @@
 #include <QPainterPath>
 #include <QPen>
 #include <QRectF>
-
 
 namespace vantorel {
 

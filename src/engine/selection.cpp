@@ -1,5 +1,5 @@
-#include "catalogue/classes.h"
-#include "engine/calculator.h"
+#include "engine/selection.h"
+
 #include "engine/numbers.h"
 
 #include <algorithm>
@@ -8,6 +8,10 @@
 namespace vantorel {
 
 namespace {
+
+constexpr const char* kEnergyWords[6] = {"Phaser ", "Disruptor ", "Plasma ", "Tetryon ", "Polaron ", "Antiproton "};
+constexpr const char* kProjectileWords[6] = {"Photon ",    "Quantum ",     "Plasma ",
+                                             "Chroniton ", "Transphasic ", "Tricobalt "};
 
 // Alpha's level 100 lets every rank gate through.
 constexpr int kNoRankLimit = 100;
@@ -112,6 +116,15 @@ int GetSubclass(const Calculator& c, Vessel v) {
         subclass = omega.index() - 1;
     }
     return std::max(subclass, 0);
+}
+
+std::string GetDamageType(const Calculator& c, Vessel v, DamageGroup group) {
+    // Relative DPS measures every energy weapon against one untyped beam
+    // array; projectiles keep their type.
+    if (group == DamageGroup::Energy && RelativeMode(c)) return {};
+    const int index = c.settings[v].WeaponType[static_cast<int>(group)].index();
+    if (index < 0 || index > 5) return {};
+    return group == DamageGroup::Energy ? kEnergyWords[index] : kProjectileWords[index];
 }
 
 } // namespace vantorel

@@ -1,0 +1,20 @@
+#pragma once
+
+// The average damage of one burst: the torpedoes or mines of a side and one
+// Beam Overload, after skills, critical hits, resistance and accuracy.
+
+#include "engine/counting.h"
+#include "engine/records.h"
+
+#include <string>
+
+namespace vantorel {
+
+// Rounded to three decimals.
+float CalculateBurst(Calculator& c, const BurstCounts& n, Vessel v);
+// The burst box's tooltip: one entry for each kind that fires.
+std::string BurstToolTip(Calculator& c, const BurstCounts& n, Vessel v);
+// The factor of the activated torpedo skill on the vessel's torpedo type.
+float GetTorpedoSkill(const Calculator& c, Vessel v);
+
+} // namespace vantorel

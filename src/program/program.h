@@ -1,0 +1,23 @@
+#pragma once
+
+// The program put together: every window's start values, every field wired
+// to its handler, the start-up run. Above every window module, below the
+// front ends (the Qt windows, the scripting front end, the tests).
+
+#include "engine/records.h"
+
+namespace vantorel {
+
+// The calculator as the program stands when its main window first shows.
+// `main`, the scripting front end and the tests each own one.
+struct Program final : Calculator {
+    Program();
+};
+
+// Connects every field's handler to its event function, and the results of a
+// recalculation to the windows that show them.
+void WireHandlers(Calculator& c);
+// The start of the main window: tables, first selections, power lists.
+void StartUp(Calculator& c);
+
+} // namespace vantorel

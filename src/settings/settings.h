@@ -1,0 +1,18 @@
+#pragma once
+
+// The handlers of the advanced settings windows, `Alpha` and `Omega`.
+
+#include "engine/records.h"
+
+namespace vantorel {
+
+// A damage type list `WeaponType[k]` (1 energy, 2 projectile) changed. It
+// runs whatever the list's enabled state: it rewrites the type's console
+// rows, tooltips and captions, and mirrors Alpha's choice into Omega.
+void WeaponTypeChanged(Calculator& c, Vessel v, int k);
+// Leaving or entering Relative DPS: the equipment factors back to 1, the
+// displayed damage boxes emptied, every console slot equipped, then the ship
+// lists rebuilt.
+void ResetModifier(Calculator& c);
+
+} // namespace vantorel
