@@ -213,17 +213,21 @@ void ModifiedPower(Calculator& c, Vessel v) {
     const int low = std::max(75 - p, 0);
 
     std::string tip = "Ship Power Bonus:" + SignedText(static_cast<int>(c.state.ShipPowerBonus[v]));
-    auto piece = [&tip](const std::string& name, double amount) { tip += name + SignedText(Round(amount, 2)); };
+    // A piece keeps the type of its product: the skill points are singles, and
+    // a single divided by a whole number stays single, so the three skill
+    // pieces are singles ("1.27" where a double gives "1.28"); the pieces with
+    // a fractional constant or a typed value are doubles.
+    auto piece = [&tip](const std::string& name, auto amount) { tip += name + SignedText(Round(amount, 2)); };
     auto positive = [](const Text& t) {
         const auto value = NumericValue(t.text());
         return value && *value > 0;
     };
 
     if (positive(set.PowerSkill[1]))
-        piece(", Warp Core Training:", SkillPoints(1, Level(set.PowerSkill[1])) / 200.0 * low);
+        piece(", Warp Core Training:", SkillPoints(1, Level(set.PowerSkill[1])) / 200 * low);
     if (set.WarpCore.value() == 1) piece(",  Warp Theorist:", low * 0.05);
     if (positive(set.PowerSkill[2]))
-        piece(",  Weapon Efficiency:", SkillPoints(3, Level(set.PowerSkill[2])) / 300.0 * low);
+        piece(",  Weapon Efficiency:", SkillPoints(3, Level(set.PowerSkill[2])) / 300 * low);
     if (set.PowerCaptain.index() == 1) piece(",  Efficient Captain:", low * 0.0333);
     if (set.PowerCaptain.index() == 2) piece(",  Joined Symbiote:", low * 0.011);
     if (positive(set.PowerSkill[4])) {
@@ -231,7 +235,7 @@ void ModifiedPower(Calculator& c, Vessel v) {
         piece(",  Efficient Bridge Officers (" + PlainText(officers) + "):", (officers * 5 / 300) * low);
     }
     if (positive(set.PowerSkill[3]))
-        piece(",  Weapon Performance:", (SkillPoints(3, Level(set.PowerSkill[3])) * 3.0) / 16);
+        piece(",  Weapon Performance:", (SkillPoints(3, Level(set.PowerSkill[3])) * 3) / 16);
     if (positive(set.PowerSkill[5])) piece(",  Equipment Bonus:", NumericOr(set.PowerSkill[5].text()));
 
     const PowerTerms t = PowerTermsOf(set);

@@ -481,6 +481,21 @@ TEST(PowerModel, BonusDisplay) {
         EXPECT_EQ(std::tuple(a.PowerBonus.caption(), a.PowerBonus.tooltip()), std::tuple(k.bonus, k.tooltip)) << k.name;
         EXPECT_EQ(a.PowerBonusLabel.caption(), k.label) << k.name;
     }
+    // The skill pieces are singles: 17 / 200 x 15 is 1.2749999 in single
+    // precision, where a double would give 1.2750000000000001 and "1.28".
+    {
+        Program w;
+        VesselSettings& a = w.Alpha();
+        a.ExtrapolatePower.setValue(1);
+        a.PowerSkill[1].setText("7");
+        List& power = w.main.PowerLevel[1];
+        for (int row = 0; row < power.count(); ++row)
+            if (power.row(row).rfind("60", 0) == 0) power.click(row);
+        ASSERT_EQ(GetPowerLevel(w, 1, Bonus::Without), 60);
+        w.state.ShipPowerBonus[1] = 0;
+        ModifiedPower(w, 1);
+        EXPECT_EQ(a.PowerBonus.tooltip(), "Ship Power Bonus: 0, Warp Core Training: 1.27");
+    }
     // The low-setting skills act only below 75: (52 / 300 + 18 / 200) x 40.
     Program c;
     c.Alpha().ExtrapolatePower.setValue(1);
