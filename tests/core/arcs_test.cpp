@@ -92,26 +92,60 @@ TEST(FiringArcs, BoxesInUseByLoadout) {
         {"cannons, shuttle array", {"Cannon", "Shuttle Beam Array"}, {}, false, {3, 10}, nullptr},
         {"simplified, empty", {}, {}, true, {2, 7, 9}, nullptr},
         {"simplified, cannons", {"Dual Cannons"}, {"Beam Array"}, true, {2, 7, 9}, nullptr},
+        {"torpedoes", {"Quantum Torpedo Launcher"}, {}, false, {12}, nullptr},
+        {"mines", {}, {"Quantum Mine Launcher"}, false, {13}, nullptr},
     };
     // clang-format on
-    for (const auto& k : cases) {
-        Program c;
-        c.main.Simplified.setValue(k.simplified ? 1 : 0);
-        Fit(c, k.forward, k.rear);
-        CalculateFiringArcs(c);
+    // The loadout goes on Alpha alone, or in a comparison on Omega alone: an
+    // arc in use on either vessel shows on both sides.
+    auto expectShown = [](const MainSelection& m, bool comparing, const auto& k, const std::string& name) {
         for (int i = 0; i <= 13; ++i) {
             const bool used = k.boxes.count(i) > 0;
-            EXPECT_EQ(c.state.ArcShown[i], used) << k.name << ", box " << i;
-            EXPECT_EQ(c.main.FiringArcDPS[i].visible(), used) << k.name << ", box " << i;
-            EXPECT_EQ(c.main.FiringArcLabel[i].visible(), used) << k.name << ", label " << i;
-            if (i < 12) { EXPECT_EQ(c.main.FiringArc[i].visible(), used) << k.name << ", arc " << i; }
-            EXPECT_FALSE(c.main.CFiringArcDPS[i].visible()) << k.name << ", Omega box " << i;
+            EXPECT_EQ(m.FiringArcDPS[i].visible(), used) << name << ", box " << i;
+            EXPECT_EQ(m.FiringArcLabel[i].visible(), used) << name << ", label " << i;
+            if (i < 12) { EXPECT_EQ(m.FiringArc[i].visible(), used) << name << ", arc " << i; }
+            EXPECT_EQ(m.CFiringArcDPS[i].visible(), comparing && used) << name << ", Omega box " << i;
+            if (i < 12) { EXPECT_EQ(m.CFiringArc[i].visible(), comparing && used) << name << ", Omega arc " << i; }
         }
-        if (k.box5) { EXPECT_EQ(c.main.FiringArcLabel[5].caption(), k.box5) << k.name; }
-        if (k.boxes.empty()) {
-            for (int row = 0; row <= 7; ++row)
-                EXPECT_EQ(c.state.ArcDPS[row][1], 0.0f) << row;
+    };
+    for (const auto& k : cases) {
+        // Every loadout follows every other, so that a box or picture of an
+        // arc that is no longer in use is seen to go.
+        for (const auto& before : cases) {
+            const std::string name = std::string(k.name) + " after " + before.name;
+            Program c;
+            c.main.Simplified.setValue(before.simplified ? 1 : 0);
+            Fit(c, before.forward, before.rear);
+            CalculateFiringArcs(c);
+            c.main.Reset.press();
+            c.main.Simplified.setValue(k.simplified ? 1 : 0);
+            Fit(c, k.forward, k.rear);
+            CalculateFiringArcs(c);
+            for (int i = 0; i <= 13; ++i)
+                EXPECT_EQ(c.state.ArcShown[i], k.boxes.count(i) > 0) << name << ", box " << i;
+            expectShown(c.main, false, k, name);
+            if (k.box5) { EXPECT_EQ(c.main.FiringArcLabel[5].caption(), k.box5) << name; }
+            if (k.boxes.empty()) {
+                for (int row = 0; row <= 7; ++row)
+                    EXPECT_EQ(c.state.ArcDPS[row][1], 0.0f) << name << ", row " << row;
+            }
         }
+        Program c;
+        c.main.Compare.press();
+        c.main.Simplified.setValue(k.simplified ? 1 : 0);
+        const char* const all[4] = {"Dual Cannons", "Beam Array", "Cannon", "Quantum Torpedo Launcher"};
+        const char* const allRear[4] = {"Beam Array", "Turret", "Quantum Mine Launcher", nullptr};
+        Fit(c, all, allRear);
+        CalculateFiringArcs(c);
+        c.main.Reset.press();
+        for (int i = 1; i <= 4; ++i) {
+            if (k.forward[i - 1]) c.main.CForward[i].setText(k.forward[i - 1]);
+            if (k.rear[i - 1]) c.main.CRear[i].setText(k.rear[i - 1]);
+        }
+        CalculateFiringArcs(c);
+        expectShown(c.main, true, k, std::string(k.name) + " on Omega");
+        if (k.boxes.count(12)) { EXPECT_GT(c.state.ArcDPS[6][2], 0.0f) << k.name; }
+        if (k.boxes.count(13)) { EXPECT_GT(c.state.ArcDPS[7][2], 0.0f) << k.name; }
     }
 }
 

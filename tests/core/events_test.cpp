@@ -303,6 +303,7 @@ TEST(Comparison, HideCompareResetsOmega) {
     m.CRear[1].setText("Turret");
     m.ShipClass[2].click(2);
     m.TargetDistance[2].click(4);
+    m.PowerLevel[2].click(2);
     c.Omega().Form.setVisible(true);
     c.Omega().SameAsAlpha.setValue(0);
     c.skills[2].SameAsAlpha.setValue(0);
@@ -334,7 +335,10 @@ TEST(Comparison, HideCompareResetsOmega) {
         EXPECT_EQ(m.CRear[i].text(), "Rear Weapon Port " + std::to_string(i));
         EXPECT_FALSE(m.CForward[i].visible() || m.CRear[i].visible() || c.Alpha().CopySettings[i].visible());
     }
-    EXPECT_EQ(m.ShipClass[2].index() + m.TargetDistance[2].index() + m.PowerLevel[2].index(), 0);
+    // Class, distance and power go back to their "Same As Alpha" rows; the tier
+    // keeps its row.
+    EXPECT_EQ(std::tuple(m.ShipClass[2].index(), m.TargetDistance[2].index(), m.PowerLevel[2].index()),
+              std::tuple(0, 0, 0));
     for (int row = 0; row <= 5; ++row)
         EXPECT_EQ(c.state.ArcDPS[row][2], 0.0f) << row;
     EXPECT_EQ(c.state.ArcDPS[6][2], 50.0f);
