@@ -234,10 +234,15 @@ class Label : public Control {
     const std::string& tooltip() const { return m_tooltip; }
     void setCaption(std::string s) { update(m_caption, std::move(s)); }
     void setTooltip(std::string s) { update(m_tooltip, std::move(s)); }
+    // The size of the caption's font in points; 0 keeps the size the window
+    // gave the label. Only captions that the program resizes set it.
+    double fontSize() const { return m_fontSize; }
+    void setFontSize(double points) { update(m_fontSize, points); }
 
   private:
     std::string m_caption;
     std::string m_tooltip;
+    double m_fontSize = 0.0;
 };
 
 // A push button: caption, tooltip, and the handler as its click.
@@ -258,7 +263,9 @@ class Picture : public Control {
     std::string m_image;
 };
 
-// A straight line from (x1, y1) to (x2, y2), twips.
+enum class LineStyle { Solid, Dotted };
+
+// A straight line from (x1, y1) to (x2, y2), twips, drawn in its fore colour.
 class Line : public Control {
   public:
     Line() = default;
@@ -267,15 +274,16 @@ class Line : public Control {
     int y1() const { return m_y1; }
     int x2() const { return m_x2; }
     int y2() const { return m_y2; }
-    void setY1(int y) {
-        if (m_y1 != y) {
-            m_y1 = y;
-            changed();
-        }
-    }
+    LineStyle style() const { return m_style; }
+    void setX1(int x) { update(m_x1, x); }
+    void setY1(int y) { update(m_y1, y); }
+    void setX2(int x) { update(m_x2, x); }
+    void setY2(int y) { update(m_y2, y); }
+    void setStyle(LineStyle s) { update(m_style, s); }
 
   private:
     int m_x1 = 0, m_y1 = 0, m_x2 = 0, m_y2 = 0;
+    LineStyle m_style = LineStyle::Solid;
 };
 
 // A scroll bar: value 0 .. maximum, with small and large steps. Its handler
@@ -308,6 +316,43 @@ class ScrollBar : public Control {
     int m_maximum = 0;
     int m_small = 1;
     int m_large = 1;
+};
+
+enum class WindowState { Normal, Minimised, Maximised };
+
+// A top-level window as the program sees it: shown or hidden, its state, and
+// its outer and inner (client) size in twips. Its handler answers a close
+// request from the window's frame: a window that is only ever hidden hides,
+// one that is really closed resets what closing resets.
+class Window : public Control {
+  public:
+    Window() { setVisible(false); }
+    explicit Window(std::string title, bool shown = false) : m_title(std::move(title)) { setVisible(shown); }
+    const std::string& title() const { return m_title; }
+    void setTitle(std::string title) { update(m_title, std::move(title)); }
+    WindowState state() const { return m_state; }
+    void setState(WindowState s) { update(m_state, s); }
+    // The frame asks to close the window; without a handler it hides.
+    void requestClose() {
+        if (hasHandler())
+            runHandler();
+        else
+            setVisible(false);
+    }
+    int innerWidth() const { return m_innerWidth; }
+    int innerHeight() const { return m_innerHeight; }
+    void setInnerSize(int w, int h) {
+        if (w == m_innerWidth && h == m_innerHeight) return;
+        m_innerWidth = w;
+        m_innerHeight = h;
+        changed();
+    }
+
+  private:
+    std::string m_title;
+    WindowState m_state = WindowState::Normal;
+    int m_innerWidth = 0;
+    int m_innerHeight = 0;
 };
 
 // A control array with the index base of the program: Indexed<List, 1, 4> is

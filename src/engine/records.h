@@ -12,6 +12,7 @@
 // their modules; the values here are those the engine itself starts from.
 
 #include "engine/fields.h"
+#include "engine/windows.h"
 
 #include <cstdint>
 #include <random>
@@ -20,34 +21,6 @@
 namespace vantorel {
 
 using Vessel = std::int16_t; // 1 Alpha, 2 Omega
-
-enum class WindowState { Normal, Minimised, Maximised };
-
-// A top-level window as the program sees it: shown or hidden, its state, and
-// its outer and inner (client) size in twips.
-class Window : public Control {
-  public:
-    Window() { setVisible(false); }
-    explicit Window(std::string title, bool shown = false) : m_title(std::move(title)) { setVisible(shown); }
-    const std::string& title() const { return m_title; }
-    void setTitle(std::string title) { update(m_title, std::move(title)); }
-    WindowState state() const { return m_state; }
-    void setState(WindowState s) { update(m_state, s); }
-    int innerWidth() const { return m_innerWidth; }
-    int innerHeight() const { return m_innerHeight; }
-    void setInnerSize(int w, int h) {
-        if (w == m_innerWidth && h == m_innerHeight) return;
-        m_innerWidth = w;
-        m_innerHeight = h;
-        changed();
-    }
-
-  private:
-    std::string m_title;
-    WindowState m_state = WindowState::Normal;
-    int m_innerWidth = 0;
-    int m_innerHeight = 0;
-};
 
 // The selections of the main window `Form1`, both vessels. Alpha's ports have
 // no prefix, Omega's a "C"; lists by vessel carry the vessel as index.
@@ -212,6 +185,11 @@ struct Calculator {
     PerVessel<VesselSettings> settings;
     PerVessel<VesselSkills> skills;
     CalculatorState state;
+    GraphWindow graph;
+    DocumentationWindow documentation;
+    AboutWindow about;
+    NoteWindow note;
+    SplashWindow splash;
     Random random;
     ResultsView results;
 

@@ -5,7 +5,9 @@
 #include "catalogue/ports.h"
 #include "engine/arcs.h"
 #include "engine/modifiers.h"
+#include "graph/graph.h"
 #include "mainwindow/layout.h"
+#include "settings/settings.h"
 
 namespace vantorel {
 
@@ -37,6 +39,9 @@ void CompareClicked(Calculator& c) {
     m.HideCompare.setVisible(true);
     m.Note.setLeft(3720);
     m.Advanced[2].setVisible(true);
+
+    if (c.Alpha().Form.visible()) PositionAlpha(c);
+    if (c.graph.Form.visible()) DisplayGraph(c);
 
     for (int i = 1; i <= 4; ++i)
         c.Alpha().CopySettings[i].setVisible(true);
@@ -89,6 +94,10 @@ void HideCompareClicked(Calculator& c) {
     for (int row = 0; row <= 5; ++row)
         c.state.ArcDPS[row][2] = 0.0f;
 
+    if (c.Alpha().Form.visible()) PositionAlpha(c);
+    if (c.graph.Form.visible()) DisplayGraph(c);
+
+    GraphReset(c);
     ShipImageControl(c);
     CalculateFiringArcs(c);
 }

@@ -6,6 +6,7 @@
 #include "engine/modifiers.h"
 #include "engine/power.h"
 #include "engine/selection.h"
+#include "graph/graph.h"
 
 #include <string>
 
@@ -82,6 +83,7 @@ void SimplifiedClicked(Calculator& c) {
         // Simplified mode greys empty boxes; the full diagram never does.
         if (!simple) m.FiringArcDPS[boxes[k]].setBack(White);
     }
+    SimplifiedGraphAxes(c);
     CalculateFiringArcs(c);
 }
 

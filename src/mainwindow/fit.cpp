@@ -1,5 +1,8 @@
 #include "mainwindow/layout.h"
 
+#include "graph/graph.h"
+#include "settings/settings.h"
+
 #include <algorithm>
 
 namespace vantorel {
@@ -38,9 +41,10 @@ void FitWindow(Calculator& c) {
     const FitResult r = Fit(in);
 
     if (r.followers != Followers::Unchanged) {
+        // The skills windows and the note stay as they are.
         const WindowState follow = r.followers == Followers::Minimised ? WindowState::Minimised : WindowState::Normal;
-        for (Vessel v = 1; v <= 2; ++v)
-            c.settings[v].Form.setState(follow);
+        for (Window* w : {&c.about.Form, &c.Alpha().Form, &c.documentation.Form, &c.graph.Form, &c.Omega().Form})
+            w->setState(follow);
     }
     if (r.minimised) return;
 
@@ -60,6 +64,9 @@ void FitWindow(Calculator& c) {
         if (m.HScroll1.value() != 0) m.HScroll1.setValue(0);
         m.Contents.setLeft(0);
     }
+    if (c.Alpha().Form.visible()) PositionAlpha(c);
+    if (c.Omega().Form.visible()) PositionOmega(c);
+    if (c.graph.Form.visible()) DisplayGraph(c);
     c.state.WindowFitted = -1;
 }
 

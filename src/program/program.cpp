@@ -2,6 +2,8 @@
 
 #include "engine/dpw.h"
 #include "engine/power.h"
+#include "graph/window.h"
+#include "help/window.h"
 #include "mainwindow/window.h"
 #include "settings/window.h"
 #include "skills/window.h"
@@ -14,6 +16,11 @@ Program::Program() {
     SetUpSettingsWindow(settings[2], 2);
     SetUpSkillsWindow(skills[1], 1);
     SetUpSkillsWindow(skills[2], 2);
+    SetUpGraphWindow(graph);
+    SetUpDocumentationWindow(documentation);
+    SetUpAboutWindow(about);
+    SetUpNoteWindow(note);
+    SetUpSplashWindow(splash);
     WireHandlers(*this);
     StartUp(*this);
 }

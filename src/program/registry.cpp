@@ -1,5 +1,7 @@
 #include "program/registry.h"
 
+#include "graph/window.h"
+#include "help/window.h"
 #include "mainwindow/window.h"
 #include "settings/window.h"
 #include "skills/window.h"
@@ -12,6 +14,11 @@ ControlRegistry::ControlRegistry(Calculator& c) {
     RegisterFields(m_refs, c.settings[2], "Omega");
     RegisterFields(m_refs, c.skills[1], "AlphaSkills");
     RegisterFields(m_refs, c.skills[2], "OmegaSkills");
+    RegisterFields(m_refs, c.graph);
+    RegisterFields(m_refs, c.documentation);
+    RegisterFields(m_refs, c.about);
+    RegisterFields(m_refs, c.note);
+    RegisterFields(m_refs, c.splash);
     RegisterFields(m_refs, c.state);
 
     m_byName.reserve(m_refs.size());

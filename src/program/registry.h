@@ -21,7 +21,8 @@ class ControlRegistry {
     explicit ControlRegistry(Calculator& c);
 
     // In the order of the records: Form1, Alpha, Omega, AlphaSkills,
-    // OmegaSkills, State; within each, the order of the fields.
+    // OmegaSkills, Graph, Documentation, About, Note, SplashScreen, State;
+    // within each, the order of the fields.
     const FieldTable& all() const { return m_refs; }
     // Exact name, after blanks inside brackets are dropped; null if none.
     const ControlRef* find(std::string_view name) const;

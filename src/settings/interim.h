@@ -1,7 +1,7 @@
 #pragma once
 
-// Until the settings and skills windows are built, their fields' handlers run
-// the recalculation chain that the window's event will run.
+// Until the settings windows are built, their fields' handlers run the
+// recalculation chain that the window's event will run.
 
 #include "engine/records.h"
 

@@ -15,4 +15,12 @@ void WeaponTypeChanged(Calculator& c, Vessel v, int k);
 // lists rebuilt.
 void ResetModifier(Calculator& c);
 
+// Size and place window `Alpha` or `Omega` beside the main window, against
+// the work area; run before it shows and again when the main window changes.
+void PositionAlpha(Calculator& c);
+void PositionOmega(Calculator& c);
+// `Advanced[v]` on the main window: shows the vessel's settings window, or
+// hides it.
+void AdvancedClicked(Calculator& c, Vessel v);
+
 } // namespace vantorel

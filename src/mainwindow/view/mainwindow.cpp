@@ -190,6 +190,9 @@ void MainWindow::showForm() {
         client->setPalette(palette);
     }
 
+    // The warning note holds the main window while it is open.
+    if (isEnabled() != form.enabled()) setEnabled(form.enabled());
+
     Qt::WindowStates states = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
     if (form.state() == WindowState::Minimised) states |= Qt::WindowMinimized;
     if (form.state() == WindowState::Maximised) states |= Qt::WindowMaximized;

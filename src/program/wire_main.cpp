@@ -1,0 +1,48 @@
+#include "program/wiring.h"
+
+#include "graph/graph.h"
+#include "help/help.h"
+#include "mainwindow/compare.h"
+#include "mainwindow/events.h"
+#include "mainwindow/layout.h"
+#include "settings/settings.h"
+#include "skills/skills.h"
+
+namespace vantorel {
+
+void WireMainWindow(Calculator& c) {
+    MainSelection& m = c.main;
+    Calculator* calc = &c;
+    for (int i = 1; i <= 4; ++i) {
+        m.Forward[i].setHandler([calc, i] { PortClicked(*calc, 1, Side::Forward, i); });
+        m.Rear[i].setHandler([calc, i] { PortClicked(*calc, 1, Side::Rear, i); });
+        m.CForward[i].setHandler([calc, i] { PortClicked(*calc, 2, Side::Forward, i); });
+        m.CRear[i].setHandler([calc, i] { PortClicked(*calc, 2, Side::Rear, i); });
+    }
+    for (Vessel v = 1; v <= 2; ++v) {
+        m.ShipClass[v].setHandler([calc, v] { ShipClassClicked(*calc, v); });
+        m.ShipTier[v].setHandler([calc, v] { ShipTierClicked(*calc, v); });
+        m.ShipSubclass[v].setHandler([calc, v] { ShipSubclassClicked(*calc, v); });
+        m.PowerLevel[v].setHandler([calc, v] { PowerLevelClicked(*calc, v); });
+        m.TargetDistance[v].setHandler([calc, v] { TargetDistanceClicked(*calc, v); });
+        m.ShuttleRank[v].setHandler([calc, v] { ShuttleRankClicked(*calc, v); });
+        m.ShuttleMod[v].setHandler([calc, v] { ShuttleModClicked(*calc, v); });
+    }
+    for (Vessel v = 1; v <= 2; ++v) {
+        m.Skills[v].setHandler([calc, v] { SkillsClicked(*calc, v); });
+        m.Advanced[v].setHandler([calc, v] { AdvancedClicked(*calc, v); });
+    }
+    m.Simplified.setHandler([calc] { SimplifiedClicked(*calc); });
+    m.Reset.setHandler([calc] { ResetClicked(*calc, 1); });
+    m.CReset.setHandler([calc] { ResetClicked(*calc, 2); });
+    m.Compare.setHandler([calc] { CompareClicked(*calc); });
+    m.HideCompare.setHandler([calc] { HideCompareClicked(*calc); });
+    m.GraphResults.setHandler([calc] { GraphResultsClicked(*calc); });
+    m.Help.setHandler(
+        [calc] { DisplayDocumentation(*calc, HelpCaller::MainWindow, HelpPosition(ManualSection::MainWindow)); });
+    m.ShowAbout.setHandler([calc] { ShowAboutClicked(*calc); });
+    m.HScroll1.setHandler([calc] { HScroll1Changed(*calc); });
+    m.VScroll1.setHandler([calc] { VScroll1Changed(*calc); });
+}
+
+} // namespace vantorel
