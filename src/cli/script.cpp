@@ -32,6 +32,27 @@ std::string Article(std::string_view noun) {
 
 bool IsBlank(char ch) { return ch == ' ' || ch == '\t' || ch == '\r'; }
 
+// A piece of the script as a message quotes it: its first hundred characters,
+// "..." where it is cut, and control characters as JSON writes them, so a
+// line of 64 KiB or of zero bytes still makes a message that can be read.
+std::string Shown(std::string_view text) {
+    constexpr std::size_t kShownCharacters = 100;
+    std::string out;
+    std::size_t characters = 0;
+    for (const char ch : text) {
+        const auto byte = static_cast<unsigned char>(ch);
+        // A byte 10xxxxxx goes on with the character before it.
+        if ((byte & 0xC0u) != 0x80u && characters++ == kShownCharacters) return out + "...";
+        if ((byte < 0x20 && ch != '\t') || byte == 0x7F) {
+            const std::string escaped = JsonString(std::string_view(&ch, 1));
+            out.append(escaped, 1, escaped.size() - 2);
+        } else {
+            out.push_back(ch);
+        }
+    }
+    return out;
+}
+
 // A value as written: "quoted text", #row, or a bare word such as 0, 1 or 2.5.
 struct Value {
     enum class Form { Quoted, Row, Bare } form = Form::Bare;
@@ -101,7 +122,7 @@ class LineReader {
             const char* end = v.text.data() + v.text.size();
             auto [ptr, ec] = std::from_chars(v.text.data(), end, v.row);
             if (v.text.empty() || ec != std::errc() || ptr != end)
-                Fail("malformed row number #" + v.text + ", expected #0, #1, ...");
+                Fail("malformed row number #" + Shown(v.text) + ", expected #0, #1, ...");
         } else {
             v.text = word();
         }
@@ -110,7 +131,7 @@ class LineReader {
 
     // What is left after the value, if anything: always an error.
     void expectEnd(const std::string& what) {
-        if (!atEnd()) Fail(what + ": unexpected text after the value: " + std::string(m_rest));
+        if (!atEnd()) Fail(what + ": unexpected text after the value: " + Shown(m_rest));
     }
 
   private:
@@ -158,7 +179,7 @@ class Runner {
         const std::string verb = in.word();
         if (verb == "print") return print(in);
         if (verb != "select" && verb != "check" && verb != "type" && verb != "click" && verb != "set")
-            Fail("unknown verb \"" + verb + "\"; the verbs are select, check, type, click, set and print");
+            Fail("unknown verb \"" + Shown(verb) + "\"; the verbs are select, check, type, click, set and print");
 
         const std::string name = in.name();
         if (name.empty()) Fail(verb + ": the name of a control is missing");
@@ -189,7 +210,7 @@ class Runner {
     // An open bracket would swallow the rest of the line into the name.
     static void closed(const std::string& name) {
         if (std::count(name.begin(), name.end(), '[') != std::count(name.begin(), name.end(), ']'))
-            Fail("malformed name " + name + ": a bracket is not closed");
+            Fail("malformed name " + Shown(name) + ": a bracket is not closed");
     }
 
     const ControlRef& lookup(const std::string& written) {
@@ -199,10 +220,10 @@ class Runner {
         const std::string base = name.substr(0, bracket);
         if (m_registry.isArray(base)) {
             if (bracket == std::string::npos) Fail(base + " is a control array: give an index, as in " + range(base));
-            Fail(name + ": index out of range; " + range(base));
+            Fail(Shown(name) + ": index out of range; " + range(base));
         }
-        if (bracket != std::string::npos && m_registry.find(base)) Fail(name + ": " + base + " is not an array");
-        Fail("unknown control " + written);
+        if (bracket != std::string::npos && m_registry.find(base)) Fail(Shown(name) + ": " + base + " is not an array");
+        Fail("unknown control " + Shown(written));
     }
 
     // "Form1.Forward[1] to Form1.Forward[4]": the first and last names.
@@ -253,15 +274,15 @@ class Runner {
     static int flagValue(const std::string& what, const std::optional<Value>& value) {
         if (!value) Fail(what + ": the value 0 or 1 is missing");
         if (value->form != Value::Form::Bare || (value->text != "0" && value->text != "1"))
-            Fail(what + ": malformed value " + value->written() + ", expected 0 or 1");
+            Fail(what + ": malformed value " + Shown(value->written()) + ", expected 0 or 1");
         return value->text == "1" ? 1 : 0;
     }
 
     static int rowOf(const List& list, const std::string& what, const Value& value) {
         if (value.form == Value::Form::Row) {
             if (value.row < 0 || value.row >= list.count()) {
-                if (list.count() == 0) Fail(what + ": no row #" + value.text + ", the list is empty");
-                Fail(what + ": no row #" + value.text + ", the list has rows #0 to #" +
+                if (list.count() == 0) Fail(what + ": no row #" + Shown(value.text) + ", the list is empty");
+                Fail(what + ": no row #" + Shown(value.text) + ", the list has rows #0 to #" +
                      std::to_string(list.count() - 1));
             }
             return value.row;
@@ -269,13 +290,13 @@ class Runner {
         for (int i = 0; i < list.count(); ++i) {
             if (list.row(i) == value.text) return i;
         }
-        Fail(what + ": no row " + value.written());
+        Fail(what + ": no row " + Shown(value.written()));
     }
 
     static void select(const ControlRef& ref, const std::string& what, const std::optional<Value>& value) {
         if (ref.kind() != ValueKind::List) wrongKind(ref, what, "a list");
         if (!value || value->form == Value::Form::Bare)
-            Fail(what + ": expected a row as \"row text\" or #N" + (value ? ", got " + value->written() : ""));
+            Fail(what + ": expected a row as \"row text\" or #N" + (value ? ", got " + Shown(value->written()) : ""));
         List& list = *std::get<List*>(ref.target);
         usable(ref, what);
         list.click(rowOf(list, what, *value));
@@ -297,7 +318,7 @@ class Runner {
             wrongKind(ref, what, "a text box or a list with typing");
         }
         if (!value || value->form != Value::Form::Quoted)
-            Fail(what + ": expected \"text\"" + (value ? ", got " + value->written() : ""));
+            Fail(what + ": expected \"text\"" + (value ? ", got " + Shown(value->written()) : ""));
         usable(ref, what);
         if (typingList) {
             std::get<List*>(ref.target)->setText(value->text);
@@ -308,26 +329,26 @@ class Runner {
 
     static void click(const ControlRef& ref, const std::string& what, const std::optional<Value>& value) {
         if (ref.kind() != ValueKind::Button) wrongKind(ref, what, "a button");
-        if (value) Fail(what + ": a button takes no value, got " + value->written());
+        if (value) Fail(what + ": a button takes no value, got " + Shown(value->written()));
         usable(ref, what);
         std::get<Button*>(ref.target)->press();
     }
 
     template <typename T> static T number(const std::string& what, const Value& value) {
         const std::optional<T> n = value.form == Value::Form::Bare ? Parse<T>(value.text) : std::nullopt;
-        if (!n) Fail(what + ": malformed value " + value.written() + ", expected a number");
+        if (!n) Fail(what + ": malformed value " + Shown(value.written()) + ", expected a number");
         return *n;
     }
 
     static std::int16_t int16(const std::string& what, const Value& value) {
         const int n = number<int>(what, value);
         if (n < std::numeric_limits<std::int16_t>::min() || n > std::numeric_limits<std::int16_t>::max())
-            Fail(what + ": " + value.text + " is out of range of a 16-bit whole number");
+            Fail(what + ": " + Shown(value.text) + " is out of range of a 16-bit whole number");
         return static_cast<std::int16_t>(n);
     }
 
     static std::string quotedText(const std::string& what, const Value& value) {
-        if (value.form != Value::Form::Quoted) Fail(what + ": expected \"text\", got " + value.written());
+        if (value.form != Value::Form::Quoted) Fail(what + ": expected \"text\", got " + Shown(value.written()));
         return value.text;
     }
 
@@ -367,7 +388,7 @@ class Runner {
                 if (!list.typing()) rowOf(list, what, v);
                 list.setText(v.text);
             } else {
-                Fail(what + ": expected #N or \"text\", got " + v.written());
+                Fail(what + ": expected #N or \"text\", got " + Shown(v.written()));
             }
             return;
         }
@@ -401,12 +422,12 @@ class Runner {
             pattern = NormalName(in.name());
             closed(pattern);
         }
-        in.expectEnd("print " + pattern);
+        in.expectEnd("print " + Shown(pattern));
         std::vector<const ControlRef*> refs;
         for (const ControlRef& ref : m_registry.all()) {
             if (GlobMatch(pattern, ref.name)) refs.push_back(&ref);
         }
-        if (refs.empty()) Fail("print " + pattern + ": no control or engine value matches");
+        if (refs.empty()) Fail("print " + Shown(pattern) + ": no control or engine value matches");
         m_output += JsonObject(refs);
         m_printed = true;
     }

@@ -114,7 +114,7 @@ TEST(Script, SetAssignsAsTheProgramDoesEvenOnHiddenControls) {
 TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
     const std::function<void(Calculator&)> none;
     // clang-format off
-    struct Case { const char* name; std::function<void(Calculator&)> setup; const char* script; const char* expected; /* the whole message */ } cases[] = {
+    struct Case { const char* name; std::function<void(Calculator&)> setup; std::string script; std::string expected; /* the whole message */ } cases[] = {
         {"unknown verb", none, "\n# a comment\npress Form1.Reset", "line 3: unknown verb \"press\"; the verbs are select, check, type, click, set and print"},
         {"unknown control", none, "click Form1.Rest", "line 1: unknown control Form1.Rest"},
         {"unknown window", none, "check Gamma.RelativeDPS 1", "line 1: unknown control Gamma.RelativeDPS"},
@@ -150,6 +150,15 @@ TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
         {"print: no match", none, "print Form1.Nothing*", "line 1: print Form1.Nothing*: no control or engine value matches"},
         {"unclosed bracket", none, "select Form1.Forward[1 \"Beam Array\"", "line 1: malformed name Form1.Forward[1 \"Beam Array\": a bracket is not closed"},
         {"print: extra text", none, "print Form1.Note Form1.Help", "line 1: print Form1.Note: unexpected text after the value: Form1.Help"},
+        {"long name cut", none, "click Form1." + std::string(300, 'X'), "line 1: unknown control Form1." + std::string(94, 'X') + "..."},
+        {"a hundred characters are not cut", none, "click " + std::string(100, 'c'), "line 1: unknown control " + std::string(100, 'c')},
+        {"long verb cut", none, std::string(150, 'v') + " Form1.Reset", "line 1: unknown verb \"" + std::string(100, 'v') + "...\"; the verbs are select, check, type, click, set and print"},
+        {"cut after a whole character", none, "click " + std::string(99, 'a') + "\xc3\xa9zz", "line 1: unknown control " + std::string(99, 'a') + "\xc3\xa9..."},
+        {"control characters escaped", none, "click Form1.\x01\x7f", "line 1: unknown control Form1.\\u0001\\u007f"},
+        {"long value cut", none, "check Form1.Simplified " + std::string(200, '7'), "line 1: check Form1.Simplified: malformed value " + std::string(100, '7') + "..., expected 0 or 1"},
+        {"long index cut", none, "select Form1.Forward[" + std::string(200, '9') + "] #1", "line 1: Form1.Forward[" + std::string(86, '9') + "...: index out of range; Form1.Forward[1] to Form1.Forward[4]"},
+        {"long text after the value cut", none, "check Form1.Simplified 1 " + std::string(200, 'x'), "line 1: check Form1.Simplified: unexpected text after the value: " + std::string(100, 'x') + "..."},
+        {"long pattern cut", none, "print Nothing" + std::string(200, '?'), "line 1: print Nothing" + std::string(93, '?') + "...: no control or engine value matches"},
         {"blank and comment lines count", none, "   \n# a comment\n\t# indented\r\n\r\nclick Form1.Reset\r\n\nbogus\n", "line 7: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
     };
     // clang-format on
