@@ -7,10 +7,10 @@
 #include <algorithm>
 #include <charconv>
 #include <exception>
-#include <limits>
 #include <optional>
 #include <ostream>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace vantorel {
@@ -53,11 +53,37 @@ std::string Shown(std::string_view text) {
     return out;
 }
 
+enum class Reading { Number, Malformed, OutOfRange };
+
+// A number as a script writes it: an optional minus and digits, and for a
+// single or double a decimal point and an exponent too. A number that is
+// well written but does not fit the type is out of range, not malformed;
+// a denormal the type can hold is read as the value it is. Infinity and NaN
+// are no numbers here: JSON cannot print them back.
+template <typename T> Reading ReadNumber(std::string_view text, T& value) {
+    const std::size_t sign = text.rfind('-', 0) == 0 ? 1 : 0;
+    const bool digitFirst = text.size() > sign && text[sign] >= '0' && text[sign] <= '9';
+    if (!digitFirst && !(std::is_floating_point_v<T> && text.size() > sign && text[sign] == '.'))
+        return Reading::Malformed;
+    const char* end = text.data() + text.size();
+    const auto [ptr, ec] = std::from_chars(text.data(), end, value);
+    if (ptr != end || ec == std::errc::invalid_argument) return Reading::Malformed;
+    return ec == std::errc::result_out_of_range ? Reading::OutOfRange : Reading::Number;
+}
+
+// "a 16-bit whole number", for messages.
+template <typename T> const char* NumberName() {
+    if constexpr (std::is_same_v<T, std::int16_t>) return "a 16-bit whole number";
+    if constexpr (std::is_same_v<T, int>) return "a 32-bit whole number";
+    if constexpr (std::is_same_v<T, float>) return "a single";
+    return "a double";
+}
+
 // A value as written: "quoted text", #row, or a bare word such as 0, 1 or 2.5.
 struct Value {
     enum class Form { Quoted, Row, Bare } form = Form::Bare;
-    std::string text; // unescaped text, or the word; for a row, the digits
-    int row = 0;
+    std::string text;       // unescaped text, or the word; for a row, the digits
+    std::optional<int> row; // none for a number beyond any list
 
     std::string written() const {
         switch (form) {
@@ -119,10 +145,11 @@ class LineReader {
             v.form = Value::Form::Row;
             m_rest.remove_prefix(1);
             v.text = word();
-            const char* end = v.text.data() + v.text.size();
-            auto [ptr, ec] = std::from_chars(v.text.data(), end, v.row);
-            if (v.text.empty() || ec != std::errc() || ptr != end)
+            int row = 0;
+            const Reading reading = ReadNumber(v.text, row);
+            if (reading == Reading::Malformed)
                 Fail("malformed row number #" + Shown(v.text) + ", expected #0, #1, ...");
+            if (reading == Reading::Number) v.row = row;
         } else {
             v.text = word();
         }
@@ -161,14 +188,6 @@ class LineReader {
 
     std::string_view m_rest;
 };
-
-template <typename T> std::optional<T> Parse(const std::string& text) {
-    T value{};
-    const char* end = text.data() + text.size();
-    auto [ptr, ec] = std::from_chars(text.data(), end, value);
-    if (text.empty() || ec != std::errc() || ptr != end) return std::nullopt;
-    return value;
-}
 
 class Runner {
   public:
@@ -280,12 +299,12 @@ class Runner {
 
     static int rowOf(const List& list, const std::string& what, const Value& value) {
         if (value.form == Value::Form::Row) {
-            if (value.row < 0 || value.row >= list.count()) {
+            if (!value.row || *value.row < 0 || *value.row >= list.count()) {
                 if (list.count() == 0) Fail(what + ": no row #" + Shown(value.text) + ", the list is empty");
                 Fail(what + ": no row #" + Shown(value.text) + ", the list has rows #0 to #" +
                      std::to_string(list.count() - 1));
             }
-            return value.row;
+            return *value.row;
         }
         for (int i = 0; i < list.count(); ++i) {
             if (list.row(i) == value.text) return i;
@@ -335,16 +354,15 @@ class Runner {
     }
 
     template <typename T> static T number(const std::string& what, const Value& value) {
-        const std::optional<T> n = value.form == Value::Form::Bare ? Parse<T>(value.text) : std::nullopt;
-        if (!n) Fail(what + ": malformed value " + Shown(value.written()) + ", expected a number");
-        return *n;
-    }
-
-    static std::int16_t int16(const std::string& what, const Value& value) {
-        const int n = number<int>(what, value);
-        if (n < std::numeric_limits<std::int16_t>::min() || n > std::numeric_limits<std::int16_t>::max())
-            Fail(what + ": " + Shown(value.text) + " is out of range of a 16-bit whole number");
-        return static_cast<std::int16_t>(n);
+        T n{};
+        const Reading reading = value.form == Value::Form::Bare ? ReadNumber(value.text, n) : Reading::Malformed;
+        if (reading == Reading::Malformed) {
+            Fail(what + ": malformed value " + Shown(value.written()) + ", expected " +
+                 (std::is_integral_v<T> ? "a whole number" : "a number"));
+        }
+        if (reading == Reading::OutOfRange)
+            Fail(what + ": " + Shown(value.text) + " is out of range of " + NumberName<T>());
+        return n;
     }
 
     static std::string quotedText(const std::string& what, const Value& value) {
@@ -382,7 +400,7 @@ class Runner {
             if (v.form == Value::Form::Row) {
                 // -1 is a real assignment: it clears the selection.
                 if (v.row != -1) rowOf(list, what, v);
-                list.setIndex(v.row);
+                list.setIndex(*v.row);
             } else if (v.form == Value::Form::Quoted) {
                 // Only a list with typing can hold a text that is not a row.
                 if (!list.typing()) rowOf(list, what, v);
@@ -396,7 +414,7 @@ class Runner {
             *std::get<int*>(ref.target) = number<int>(what, v);
             return;
         case ValueKind::Int16:
-            *std::get<std::int16_t*>(ref.target) = int16(what, v);
+            *std::get<std::int16_t*>(ref.target) = number<std::int16_t>(what, v);
             return;
         case ValueKind::Single:
             *std::get<float*>(ref.target) = number<float>(what, v);

@@ -170,6 +170,65 @@ TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
     }
 }
 
+TEST(Script, ANumberThatDoesNotFitIsOutOfRangeAndANonNumberMalformed) {
+    // clang-format off
+    struct Case { const char* name; const char* field; const char* written; const char* outcome; /* the printed value, or the message after "set FIELD: " */ } cases[] = {
+        {"32-bit largest", "State.WindowFitted", "2147483647", "2147483647"},
+        {"32-bit smallest", "State.WindowFitted", "-2147483648", "-2147483648"},
+        {"32-bit over", "State.WindowFitted", "2147483648", "2147483648 is out of range of a 32-bit whole number"},
+        {"32-bit under", "State.WindowFitted", "-2147483649", "-2147483649 is out of range of a 32-bit whole number"},
+        {"32-bit far over", "State.WindowFitted", "99999999999999999999999", "99999999999999999999999 is out of range of a 32-bit whole number"},
+        {"32-bit fraction", "State.WindowFitted", "1.5", "malformed value 1.5, expected a whole number"},
+        {"16-bit largest", "State.RapidFire[1]", "32767", "32767"},
+        {"16-bit smallest", "State.RapidFire[1]", "-32768", "-32768"},
+        {"16-bit over", "State.RapidFire[1]", "32768", "32768 is out of range of a 16-bit whole number"},
+        {"16-bit beyond 32 bits", "State.RapidFire[1]", "2147483648", "2147483648 is out of range of a 16-bit whole number"},
+        {"16-bit exponent", "State.RapidFire[1]", "1e3", "malformed value 1e3, expected a whole number"},
+        {"whole with a plus", "State.RapidFire[1]", "+1", "malformed value +1, expected a whole number"},
+        {"whole, minus alone", "State.RapidFire[1]", "-", "malformed value -, expected a whole number"},
+        {"single denormal", "State.ArcDPS[0,1]", "1e-45", "1e-45"},
+        {"single below its denormals", "State.ArcDPS[0,1]", "1e-46", "1e-46 is out of range of a single"},
+        {"single over", "State.ArcDPS[0,1]", "1e39", "1e39 is out of range of a single"},
+        {"single, a point first", "State.ArcDPS[0,1]", "-.5", "-0.5"},
+        {"single infinity", "State.ArcDPS[0,1]", "inf", "malformed value inf, expected a number"},
+        {"single not a number", "State.ArcDPS[0,1]", "nan", "malformed value nan, expected a number"},
+        {"single, minus infinity", "State.ArcDPS[0,1]", "-infinity", "malformed value -infinity, expected a number"},
+        {"double denormal", "State.DPWCoefficient[1,2,1]", "5e-324", "5e-324"},
+        {"double below its denormals", "State.DPWCoefficient[1,2,1]", "2e-324", "2e-324 is out of range of a double"},
+        {"double over", "State.DPWCoefficient[1,2,1]", "1e309", "1e309 is out of range of a double"},
+        {"double exponent too long", "State.DPWCoefficient[1,2,1]", "1e99999999999999999999", "1e99999999999999999999 is out of range of a double"},
+        {"double hexadecimal", "State.DPWCoefficient[1,2,1]", "0x10", "malformed value 0x10, expected a number"},
+        {"double, exponent cut", "State.DPWCoefficient[1,2,1]", "1e", "malformed value 1e, expected a number"},
+        {"double, a point alone", "State.DPWCoefficient[1,2,1]", ".", "malformed value ., expected a number"},
+        {"double as text", "State.DPWCoefficient[1,2,1]", "\"1\"", "malformed value \"1\", expected a number"},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Calculator c;
+        const std::string set = std::string("set ") + k.field;
+        const Result r = RunOn(c, set + " " + k.written + "\nprint " + k.field + "\n");
+        const std::string outcome = r.status == 0 ? Printed(r, k.field) : r.err;
+        const std::string expected = r.status == 0 ? k.outcome : "line 1: " + set + ": " + k.outcome + "\n";
+        EXPECT_EQ(outcome, expected) << k.name;
+    }
+}
+
+TEST(Script, ARowNumberBeyondEveryListIsARowThatDoesNotExist) {
+    // clang-format off
+    struct Case { const char* name; const char* script; const char* expected; } cases[] = {
+        {"beyond 32 bits", "select Form1.TargetDistance[1] #99999999999", "line 1: select Form1.TargetDistance[1]: no row #99999999999, the list has rows #0 to #9"},
+        {"below -1", "set Form1.TargetDistance[1] #-99999999999", "line 1: set Form1.TargetDistance[1]: no row #-99999999999, the list has rows #0 to #9"},
+        {"a fraction", "select Form1.TargetDistance[1] #1.5", "line 1: malformed row number #1.5, expected #0, #1, ..."},
+        {"a plus", "select Form1.TargetDistance[1] #+1", "line 1: malformed row number #+1, expected #0, #1, ..."},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Calculator c;
+        const Result r = RunOn(c, k.script);
+        EXPECT_EQ(std::tuple(r.status, r.err), std::tuple(2, std::string(k.expected) + "\n")) << k.name;
+    }
+}
+
 TEST(Script, ReadsAScriptThatStartsWithAByteOrderMark) {
     std::ostringstream out, err;
     EXPECT_EQ(RunScript("\xEF\xBB\xBFprint State.Comparing\n", out, err), 0) << err.str();
