@@ -365,6 +365,20 @@ class Runner {
         return n;
     }
 
+    // A scroll bar runs from 0 to its maximum, and one with a negative maximum
+    // has nowhere to go; its handler moves the page by minus the value, so a
+    // value outside the bar is refused as a row that does not exist is.
+    static int scrollValue(const ScrollBar& bar, const std::string& what, const Value& value) {
+        int n = 0;
+        const Reading reading = value.form == Value::Form::Bare ? ReadNumber(value.text, n) : Reading::Malformed;
+        if (reading == Reading::Malformed)
+            Fail(what + ": malformed value " + Shown(value.written()) + ", expected a whole number");
+        const int top = std::max(bar.maximum(), 0);
+        if (reading == Reading::OutOfRange || n < 0 || n > top)
+            Fail(what + ": " + Shown(value.text) + " is out of range of the scroll bar, 0 to " + std::to_string(top));
+        return n;
+    }
+
     static std::string quotedText(const std::string& what, const Value& value) {
         if (value.form != Value::Form::Quoted) Fail(what + ": expected \"text\", got " + Shown(value.written()));
         return value.text;
@@ -392,9 +406,11 @@ class Runner {
         case ValueKind::String:
             *std::get<std::string*>(ref.target) = quotedText(what, v);
             return;
-        case ValueKind::ScrollBar:
-            std::get<ScrollBar*>(ref.target)->setValue(number<int>(what, v));
+        case ValueKind::ScrollBar: {
+            ScrollBar& bar = *std::get<ScrollBar*>(ref.target);
+            bar.setValue(scrollValue(bar, what, v));
             return;
+        }
         case ValueKind::List: {
             List& list = *std::get<List*>(ref.target);
             if (v.form == Value::Form::Row) {

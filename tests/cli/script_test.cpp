@@ -93,7 +93,6 @@ TEST(Script, SetAssignsAsTheProgramDoesEvenOnHiddenControls) {
         {"text box", "set Omega.TargetDefense \"45\"", "Omega.TargetDefense", "\"text\":\"45\""},
         {"label", "set Form1.Note \"Hello\"", "Form1.Note", "\"caption\":\"Hello\""},
         {"button", "set Form1.Advanced[2] \"Hide Settings\"", "Form1.Advanced[2]", "\"caption\":\"Hide Settings\""},
-        {"scroll bar", "set Form1.HScroll1 120", "Form1.HScroll1", "\"value\":120,"},
         {"plain text", "set Form1.ShipImageId[1] \"Cruiser/5/2\"", "Form1.ShipImageId[1]", "\"Cruiser/5/2\""},
         {"16-bit", "set State.SkillTargets[1] 3", "State.SkillTargets[1]", "3"},
         {"whole number", "set State.WindowFitted -1", "State.WindowFitted", "-1"},
@@ -226,6 +225,37 @@ TEST(Script, ARowNumberBeyondEveryListIsARowThatDoesNotExist) {
         Calculator c;
         const Result r = RunOn(c, k.script);
         EXPECT_EQ(std::tuple(r.status, r.err), std::tuple(2, std::string(k.expected) + "\n")) << k.name;
+    }
+}
+
+TEST(Script, AScrollBarTakesOnlyTheValuesBetweenZeroAndItsMaximum) {
+    // clang-format off
+    struct Case { const char* name; const char* bar; int maximum; const char* written; const char* refusal; /* after "set BAR: ", null if taken */ } cases[] = {
+        {"inside", "Form1.HScroll1", 4000, "120", nullptr},
+        {"at the maximum", "Form1.VScroll1", 4000, "4000", nullptr},
+        {"zero on a bar with no room", "Form1.VScroll1", 0, "0", nullptr},
+        {"one past the maximum", "Form1.HScroll1", 4000, "4001", "4001 is out of range of the scroll bar, 0 to 4000"},
+        {"below zero", "Form1.HScroll1", 4000, "-1", "-1 is out of range of the scroll bar, 0 to 4000"},
+        {"the most negative whole number", "Form1.VScroll1", 0, "-2147483648", "-2147483648 is out of range of the scroll bar, 0 to 0"},
+        {"the most negative, across", "Form1.HScroll1", 4000, "-2147483648", "-2147483648 is out of range of the scroll bar, 0 to 4000"},
+        {"a negative maximum counts as 0", "Alpha.VScroll1", -500, "1", "1 is out of range of the scroll bar, 0 to 0"},
+        {"beyond 32 bits", "Omega.VScroll1", 4000, "99999999999", "99999999999 is out of range of the scroll bar, 0 to 4000"},
+        {"a fraction", "Form1.VScroll1", 4000, "1.5", "malformed value 1.5, expected a whole number"},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Calculator c;
+        ScrollBar& bar = *std::get<ScrollBar*>(ControlRegistry(c).find(k.bar)->target);
+        bar.setRange(k.maximum, 1, 1);
+        const std::string set = std::string("set ") + k.bar;
+        const Result r = RunOn(c, set + " " + k.written + "\nprint " + k.bar + "\n");
+        if (k.refusal) {
+            EXPECT_EQ(std::tuple(r.status, r.err), std::tuple(2, "line 1: " + set + ": " + k.refusal + "\n")) << k.name;
+            EXPECT_EQ(bar.value(), 0) << k.name;
+        } else {
+            const std::string value = Printed(r, k.bar);
+            EXPECT_EQ(value.rfind("{\"value\":" + std::string(k.written) + ",", 0), 0u) << k.name << ": " << value;
+        }
     }
 }
 
