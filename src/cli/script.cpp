@@ -30,7 +30,7 @@ std::string Article(std::string_view noun) {
     return (vowel ? "an " : "a ") + std::string(noun);
 }
 
-bool IsBlank(char ch) { return ch == ' ' || ch == '\t' || ch == '\r'; }
+bool IsBlank(char ch) { return ch == ' ' || ch == '\t'; }
 
 // A piece of the script as a message quotes it: its first hundred characters,
 // "..." where it is cut, and control characters as JSON writes them, so a
@@ -484,10 +484,11 @@ int RunScript(Calculator& calculator, const std::string& script, std::ostream& o
     std::size_t start = script.rfind("\xEF\xBB\xBF", 0) == 0 ? 3 : 0;
     int number = 0;
     while (start < script.size()) {
-        std::size_t end = script.find('\n', start);
+        // A line ends in LF, CRLF or a lone CR, as editors on every system write them.
+        std::size_t end = script.find_first_of("\r\n", start);
         if (end == std::string::npos) end = script.size();
         std::string_view line(script.data() + start, end - start);
-        start = end + 1;
+        start = end + (script.compare(end, 2, "\r\n") == 0 ? 2 : 1);
         ++number;
 
         while (!line.empty() && IsBlank(line.front()))

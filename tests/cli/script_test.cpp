@@ -259,6 +259,27 @@ TEST(Script, AScrollBarTakesOnlyTheValuesBetweenZeroAndItsMaximum) {
     }
 }
 
+TEST(Script, LfCrlfAndALoneCrEachEndALine) {
+    // clang-format off
+    struct Case { const char* name; const char* script; /* sets Form1.Note to "a" */ const char* expected; /* the message; "" when the script runs */ } cases[] = {
+        {"lone CR", "# a note\rset Form1.Note \"a\"\rbogus\r", "line 3: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
+        {"lone CR, no error", "# a note\rset Form1.Note \"a\"\rprint Form1.Note", ""},
+        {"CRLF is one end", "# a note\r\n\r\nset Form1.Note \"a\"\r\nbogus", "line 4: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
+        {"LF then CR are two", "# a note\n\rset Form1.Note \"a\"\nbogus", "line 4: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
+        {"mixed", "set Form1.Note \"a\"\r# b\nprint Form1.Note\r\n", ""},
+        {"CR ends a text", "set Form1.Note \"a\"\rset Form1.Note \"b\r\"", "line 2: malformed text: the closing \" is missing"},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Calculator c;
+        const Result r = RunOn(c, k.script);
+        EXPECT_EQ(std::tuple(r.status, r.err),
+                  std::tuple(*k.expected ? 2 : 0, *k.expected ? std::string(k.expected) + "\n" : ""))
+            << k.name;
+        EXPECT_EQ(c.main.Note.caption(), "a") << k.name;
+    }
+}
+
 TEST(Script, ReadsAScriptThatStartsWithAByteOrderMark) {
     std::ostringstream out, err;
     EXPECT_EQ(RunScript("\xEF\xBB\xBFprint State.Comparing\n", out, err), 0) << err.str();
