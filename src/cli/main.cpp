@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <sstream>
 #include <string>
 
 namespace {
@@ -18,17 +17,6 @@ constexpr int kBadInput = 2;
 
 const char* const kUsage = "usage: vantorel-cli [SCRIPT]\n"
                            "Runs the actions of SCRIPT (standard input if absent or \"-\") and prints JSON.\n";
-
-// The whole text of a stream; false if reading failed part way.
-bool ReadAll(std::istream& in, std::string& text) {
-    std::ostringstream buffer;
-    char chunk[4096];
-    while (in.read(chunk, sizeof chunk) || in.gcount() > 0)
-        buffer.write(chunk, in.gcount());
-    if (in.bad()) return false;
-    text = buffer.str();
-    return true;
-}
 
 } // namespace
 
@@ -45,7 +33,7 @@ int main(int argc, char** argv) {
 
     std::string script;
     if (path == "-") {
-        if (!ReadAll(std::cin, script)) {
+        if (!vantorel::ReadScript(std::cin, script)) {
             std::cerr << "vantorel-cli: cannot read standard input\n";
             return kBadInput;
         }
@@ -60,7 +48,7 @@ int main(int argc, char** argv) {
             std::cerr << "vantorel-cli: cannot read " << path << ": " << std::strerror(errno) << '\n';
             return kBadInput;
         }
-        if (!ReadAll(file, script)) {
+        if (!vantorel::ReadScript(file, script)) {
             std::cerr << "vantorel-cli: cannot read " << path << '\n';
             return kBadInput;
         }

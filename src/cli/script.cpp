@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <charconv>
 #include <exception>
+#include <istream>
 #include <optional>
 #include <ostream>
 #include <string_view>
@@ -462,7 +463,13 @@ class Runner {
             if (GlobMatch(pattern, ref.name)) refs.push_back(&ref);
         }
         if (refs.empty()) Fail("print " + Shown(pattern) + ": no control or engine value matches");
-        m_output += JsonObject(refs);
+        // The output waits for the end of the script, so that a bad line
+        // prints nothing; a script of 16 MiB of `print` would need far more.
+        std::string object = JsonObject(refs);
+        if (m_output.size() + object.size() > kMaxOutputBytes)
+            Fail("print " + Shown(pattern) + ": the output is over " + std::to_string(kMaxOutputBytes / (1024 * 1024)) +
+                 " MiB, more than a script may print");
+        m_output += object;
         m_printed = true;
     }
 
@@ -473,12 +480,34 @@ class Runner {
 
 } // namespace
 
+bool ReadScript(std::istream& in, std::string& text) {
+    text.clear();
+    std::size_t lineBytes = 0;
+    char chunk[4096];
+    while (in.read(chunk, sizeof chunk) || in.gcount() > 0) {
+        const std::string_view got(chunk, static_cast<std::size_t>(in.gcount()));
+        for (std::size_t i = 0; i < got.size(); ++i) {
+            lineBytes = got[i] == '\r' || got[i] == '\n' ? 0 : lineBytes + 1;
+            if (lineBytes > kMaxLineBytes || text.size() + i + 1 > kMaxScriptBytes) {
+                text.append(got.substr(0, i + 1));
+                return true;
+            }
+        }
+        text.append(got);
+    }
+    return !in.bad();
+}
+
 int RunScript(const std::string& script, std::ostream& out, std::ostream& err) {
     Calculator calculator;
     return RunScript(calculator, script, out, err);
 }
 
 int RunScript(Calculator& calculator, const std::string& script, std::ostream& out, std::ostream& err) {
+    if (script.size() > kMaxScriptBytes) {
+        err << "the script is over " << kMaxScriptBytes / (1024 * 1024) << " MiB, more than a script may hold\n";
+        return 2;
+    }
     Runner runner(calculator);
     // Editors on Windows like to open a file with a byte order mark.
     std::size_t start = script.rfind("\xEF\xBB\xBF", 0) == 0 ? 3 : 0;
@@ -490,6 +519,11 @@ int RunScript(Calculator& calculator, const std::string& script, std::ostream& o
         std::string_view line(script.data() + start, end - start);
         start = end + (script.compare(end, 2, "\r\n") == 0 ? 2 : 1);
         ++number;
+        if (line.size() > kMaxLineBytes) {
+            err << "line " << number << ": the line is over " << kMaxLineBytes / 1024
+                << " KiB, more than a line may hold: " << Shown(line) << '\n';
+            return 2;
+        }
 
         while (!line.empty() && IsBlank(line.front()))
             line.remove_prefix(1);

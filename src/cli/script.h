@@ -14,6 +14,7 @@
 // wild, and brackets match themselves, since every indexed name has them:
 // `print State.ArcDPS[*,2]` prints Omega's rows.
 
+#include <cstddef>
 #include <iosfwd>
 #include <string>
 
@@ -21,9 +22,23 @@ namespace vantorel {
 
 struct Calculator;
 
+// The most a script and one of its lines may hold, in bytes. No script a
+// person writes comes near them; they stop a stream without end, such as
+// /dev/zero, before it fills the memory.
+inline constexpr std::size_t kMaxScriptBytes = 16 * 1024 * 1024;
+inline constexpr std::size_t kMaxLineBytes = 64 * 1024;
+// The most all `print` lines of a script may write: some 750 prints of the
+// whole state.
+inline constexpr std::size_t kMaxOutputBytes = 64 * 1024 * 1024;
+
+// Reads a script from `in` a chunk at a time into `text`, and stops as soon
+// as a line or the whole is over its limit: what was read then shows the
+// fault to RunScript, which refuses it. False if reading failed.
+bool ReadScript(std::istream& in, std::string& text);
+
 // Runs the script text on a fresh Calculator; writes JSON to `out` and errors
-// to `err`. Returns the exit status: 0, or 2 for a script with an error, in
-// which case nothing at all is written to `out`.
+// to `err`. Returns the exit status: 0, or 2 for a script with an error or
+// over a limit, in which case nothing at all is written to `out`.
 int RunScript(const std::string& script, std::ostream& out, std::ostream& err);
 
 // The same on a given Calculator, which keeps what the script did to it.

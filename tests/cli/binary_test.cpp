@@ -54,9 +54,12 @@ class Binary : public ::testing::Test {
 
     // `args` go to the shell as they are; `input`, if any, is standard input.
     Outcome run(const std::string& args, const std::string* input = nullptr) {
+        return runFrom(args, input ? write("stdin", *input) : fs::path("/dev/null"));
+    }
+
+    Outcome runFrom(const std::string& args, const fs::path& in) {
         const fs::path out = m_dir / "out", err = m_dir / "err";
-        std::string command = "'" + std::string(VANTOREL_CLI) + "' " + args;
-        command += input ? " < " + Quoted(write("stdin", *input)) : " < /dev/null";
+        std::string command = "'" + std::string(VANTOREL_CLI) + "' " + args + " < " + Quoted(in);
         command += " > " + Quoted(out) + " 2> " + Quoted(err);
         const int raw = std::system(command.c_str());
         return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, Slurp(out), Slurp(err)};
@@ -91,6 +94,21 @@ TEST_F(Binary, ExitsWithTwoAndPrintsNothingOnAFailure) {
         const Outcome o = run(c.args, c.input);
         EXPECT_EQ(std::tuple(o.status, o.out), std::tuple(2, "")) << c.name;
         EXPECT_NE(o.err.find(c.says), std::string::npos) << c.name << ": " << o.err;
+    }
+}
+
+TEST_F(Binary, StopsReadingInputWithoutEndAtTheLimitOfALine) {
+    // clang-format off
+    struct Case { const char* name; std::string args; fs::path in; } cases[] = {
+        {"a file", "/dev/zero", "/dev/null"},
+        {"standard input", "-", "/dev/zero"},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        const Outcome o = runFrom(c.args, c.in);
+        EXPECT_EQ(std::tuple(o.status, o.out), std::tuple(2, "")) << c.name;
+        EXPECT_EQ(o.err.rfind("line 1: the line is over 64 KiB, more than a line may hold: \\u0000", 0), 0u)
+            << c.name << ": " << o.err;
     }
 }
 

@@ -280,6 +280,69 @@ TEST(Script, LfCrlfAndALoneCrEachEndALine) {
     }
 }
 
+TEST(Script, ReadingStopsOneBytePastALineOrAScriptOverItsLimit) {
+    const std::string line(kMaxLineBytes, '#');
+    std::string lines;
+    while (lines.size() <= kMaxScriptBytes)
+        lines += line + "\n";
+    // clang-format off
+    struct Case { const char* name; std::string input; std::size_t read; /* bytes */ } cases[] = {
+        {"a short script", "print\n", 6},
+        {"a line at its limit", line + "\nprint", kMaxLineBytes + 6},
+        {"a line over its limit", line + "xyz\nprint", kMaxLineBytes + 1},
+        {"CR ends a line too", line + "\r" + line + "\r" + line, 3 * kMaxLineBytes + 2},
+        {"zero bytes without end", std::string(2 * kMaxLineBytes, '\0'), kMaxLineBytes + 1},
+        {"a script over its limit", lines, kMaxScriptBytes + 1},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        std::istringstream in(k.input);
+        std::string text;
+        EXPECT_TRUE(ReadScript(in, text)) << k.name;
+        EXPECT_EQ(text.size(), k.read) << k.name;
+        EXPECT_EQ(text, k.input.substr(0, k.read)) << k.name;
+    }
+}
+
+TEST(Script, ALineOrAScriptOverItsLimitIsRefused) {
+    const std::string tail = ", more than a line may hold: ";
+    // clang-format off
+    struct Case { const char* name; std::string script; std::string expected; /* the message; "" when the script runs */ } cases[] = {
+        {"a comment at the limit", "# " + std::string(kMaxLineBytes - 2, 'x') + "\nprint Form1.Note", ""},
+        {"a comment over the limit", "print Form1.Note\n# " + std::string(kMaxLineBytes - 1, 'x'), "line 2: the line is over 64 KiB" + tail + "# " + std::string(98, 'x') + "..."},
+        {"zero bytes", std::string(kMaxLineBytes + 1, '\0'), "line 1: the line is over 64 KiB" + tail + [] { std::string z; for (int i = 0; i < 100; ++i) z += "\\u0000"; return z; }() + "..."},
+        {"blanks count", std::string(kMaxLineBytes, ' ') + "x", "line 1: the line is over 64 KiB" + tail + std::string(100, ' ') + "..."},
+        {"a script at the limit", std::string(kMaxScriptBytes - 16, '\n') + "print Form1.Note", ""},
+        {"a script over the limit", std::string(kMaxScriptBytes - 15, '\n') + "print Form1.Note", "the script is over 16 MiB, more than a script may hold"},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Calculator c;
+        const Result r = RunOn(c, k.script);
+        EXPECT_EQ(std::tuple(r.status, r.err),
+                  std::tuple(k.expected.empty() ? 0 : 2, k.expected.empty() ? "" : k.expected + "\n"))
+            << k.name;
+    }
+}
+
+// The output waits in memory for the end of the script; a script of 16 MiB
+// of `print` would otherwise ask for hundreds of gigabytes.
+TEST(Script, PrintsStopWhereTheOutputWouldPassItsLimit) {
+    Calculator once;
+    const std::size_t whole = RunOn(once, "print").out.size();
+    const std::size_t fit = kMaxOutputBytes / whole;
+    std::string script;
+    for (std::size_t n = 0; n <= fit; ++n)
+        script += "print\n";
+    Calculator c;
+    const Result r = RunOn(c, script);
+    EXPECT_EQ(std::tuple(r.status, r.err, r.out),
+              std::tuple(2,
+                         "line " + std::to_string(fit + 1) +
+                             ": print *: the output is over 64 MiB, more than a script may print\n",
+                         ""));
+}
+
 TEST(Script, ReadsAScriptThatStartsWithAByteOrderMark) {
     std::ostringstream out, err;
     EXPECT_EQ(RunScript("\xEF\xBB\xBFprint State.Comparing\n", out, err), 0) << err.str();
