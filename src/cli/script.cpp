@@ -5,7 +5,9 @@
 #include "engine/registry.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
+#include <cstring>
 #include <exception>
 #include <istream>
 #include <optional>
@@ -506,7 +508,7 @@ int RunScript(const std::string& script, std::ostream& out, std::ostream& err) {
 int RunScript(Calculator& calculator, const std::string& script, std::ostream& out, std::ostream& err) {
     if (script.size() > kMaxScriptBytes) {
         err << "the script is over " << kMaxScriptBytes / (1024 * 1024) << " MiB, more than a script may hold\n";
-        return 2;
+        return kBadScript;
     }
     Runner runner(calculator);
     // Editors on Windows like to open a file with a byte order mark.
@@ -522,7 +524,7 @@ int RunScript(Calculator& calculator, const std::string& script, std::ostream& o
         if (line.size() > kMaxLineBytes) {
             err << "line " << number << ": the line is over " << kMaxLineBytes / 1024
                 << " KiB, more than a line may hold: " << Shown(line) << '\n';
-            return 2;
+            return kBadScript;
         }
 
         while (!line.empty() && IsBlank(line.front()))
@@ -532,16 +534,22 @@ int RunScript(Calculator& calculator, const std::string& script, std::ostream& o
             runner.run(line);
         } catch (const ScriptError& e) {
             err << "line " << number << ": " << e.message << '\n';
-            return 2;
+            return kBadScript;
         } catch (const std::exception& e) {
             // A fault of the program, not of the script; still, no partial output.
             err << "line " << number << ": the program failed: " << e.what() << '\n';
-            return 2;
+            return kBadScript;
         }
     }
     if (!runner.printed()) runner.printAll();
-    out << runner.output();
-    return 0;
+    // A full disk or a closed pipe must not pass for a script that ran.
+    errno = 0;
+    out << runner.output() << std::flush;
+    if (!out) {
+        err << "cannot write the output" << (errno ? std::string(": ") + std::strerror(errno) : "") << '\n';
+        return kOutputFailed;
+    }
+    return kScriptRan;
 }
 
 } // namespace vantorel

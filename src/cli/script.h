@@ -22,6 +22,13 @@ namespace vantorel {
 
 struct Calculator;
 
+// The exit statuses of a script run: it ran and its output was written; the
+// output could not be written (a full disk, a closed pipe); the script has
+// a fault, or is over a limit, and nothing was written.
+inline constexpr int kScriptRan = 0;
+inline constexpr int kOutputFailed = 1;
+inline constexpr int kBadScript = 2;
+
 // The most a script and one of its lines may hold, in bytes. No script a
 // person writes comes near them; they stop a stream without end, such as
 // /dev/zero, before it fills the memory.
@@ -37,8 +44,8 @@ inline constexpr std::size_t kMaxOutputBytes = 64 * 1024 * 1024;
 bool ReadScript(std::istream& in, std::string& text);
 
 // Runs the script text on a fresh Calculator; writes JSON to `out` and errors
-// to `err`. Returns the exit status: 0, or 2 for a script with an error or
-// over a limit, in which case nothing at all is written to `out`.
+// to `err`. Returns the exit status above; with kBadScript nothing at all is
+// written to `out`.
 int RunScript(const std::string& script, std::ostream& out, std::ostream& err);
 
 // The same on a given Calculator, which keeps what the script did to it.

@@ -57,12 +57,14 @@ class Binary : public ::testing::Test {
         return runFrom(args, input ? write("stdin", *input) : fs::path("/dev/null"));
     }
 
-    Outcome runFrom(const std::string& args, const fs::path& in) {
-        const fs::path out = m_dir / "out", err = m_dir / "err";
+    // Standard output goes to `out` if given, such as /dev/full, and is then
+    // not read back.
+    Outcome runFrom(const std::string& args, const fs::path& in, const fs::path& out = {}) {
+        const fs::path to = out.empty() ? m_dir / "out" : out, err = m_dir / "err";
         std::string command = "'" + std::string(VANTOREL_CLI) + "' " + args + " < " + Quoted(in);
-        command += " > " + Quoted(out) + " 2> " + Quoted(err);
+        command += " > " + Quoted(to) + " 2> " + Quoted(err);
         const int raw = std::system(command.c_str());
-        return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, Slurp(out), Slurp(err)};
+        return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, out.empty() ? Slurp(to) : "", Slurp(err)};
     }
 
     fs::path m_dir;
@@ -109,6 +111,23 @@ TEST_F(Binary, StopsReadingInputWithoutEndAtTheLimitOfALine) {
         EXPECT_EQ(std::tuple(o.status, o.out), std::tuple(2, "")) << c.name;
         EXPECT_EQ(o.err.rfind("line 1: the line is over 64 KiB, more than a line may hold: \\u0000", 0), 0u)
             << c.name << ": " << o.err;
+    }
+}
+
+TEST_F(Binary, ExitsWithOneWhenTheOutputCannotBeWritten) {
+    if (!fs::exists("/dev/full")) GTEST_SKIP() << "no /dev/full";
+    const std::string script = "print Form1.Note\n";
+    // clang-format off
+    struct Case { const char* name; std::string args; fs::path in; int status; const char* says; } cases[] = {
+        {"a print", "-", write("script.txt", script), 1, "cannot write the output: No space left on device\n"},
+        {"the whole state", "-", "/dev/null", 1, "cannot write the output: No space left on device\n"},
+        {"the help", "--help", "/dev/null", 1, "vantorel-cli: cannot write the output: No space left on device\n"},
+        {"a bad script still says where", "-", write("bad.txt", "bogus\n"), 2, "line 1: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print\n"},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        const Outcome o = runFrom(c.args, c.in, "/dev/full");
+        EXPECT_EQ(std::tuple(o.status, o.err), std::tuple(c.status, c.says)) << c.name;
     }
 }
 

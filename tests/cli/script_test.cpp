@@ -343,6 +343,30 @@ TEST(Script, PrintsStopWhereTheOutputWouldPassItsLimit) {
                          ""));
 }
 
+// A stream that takes nothing, as a full disk or a closed pipe.
+class Refusing final : public std::streambuf {
+  protected:
+    int_type overflow(int_type) override { return traits_type::eof(); }
+    std::streamsize xsputn(const char*, std::streamsize) override { return 0; }
+};
+
+TEST(Script, AnOutputThatCannotBeWrittenIsAFailureOfItsOwn) {
+    // clang-format off
+    struct Case { const char* name; const char* script; int status; const char* says; } cases[] = {
+        {"a print", "print Form1.Note", kOutputFailed, "cannot write the output\n"},
+        {"the whole state", "# nothing", kOutputFailed, "cannot write the output\n"},
+        {"a bad line comes first", "print Form1.Note\nbogus", kBadScript, "line 2: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print\n"},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Refusing refusing;
+        std::ostream out(&refusing);
+        std::ostringstream err;
+        const int status = RunScript(k.script, out, err);
+        EXPECT_EQ(std::tuple(status, err.str()), std::tuple(k.status, k.says)) << k.name;
+    }
+}
+
 TEST(Script, ReadsAScriptThatStartsWithAByteOrderMark) {
     std::ostringstream out, err;
     EXPECT_EQ(RunScript("\xEF\xBB\xBFprint State.Comparing\n", out, err), 0) << err.str();
