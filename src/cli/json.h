@@ -33,4 +33,17 @@ std::string JsonObject(const std::vector<const ControlRef*>& refs);
 // can spell a name as it is written: `Form1.Forward[1]`, `State.ArcDPS[*,1]`.
 bool GlobMatch(std::string_view pattern, std::string_view name);
 
+// The same pattern made ready for many names. A run of `*` matches as one
+// does, so it is kept as one: a match then costs about the square of the
+// name's length at worst, however long the pattern, where a megabyte of `*`
+// would otherwise be walked again for every name.
+class NamePattern {
+  public:
+    explicit NamePattern(std::string_view pattern);
+    bool matches(std::string_view name) const;
+
+  private:
+    std::string m_pattern;
+};
+
 } // namespace vantorel

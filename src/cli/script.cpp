@@ -460,9 +460,10 @@ class Runner {
             closed(pattern);
         }
         in.expectEnd("print " + Shown(pattern));
+        const NamePattern glob(pattern);
         std::vector<const ControlRef*> refs;
         for (const ControlRef& ref : m_registry.all()) {
-            if (GlobMatch(pattern, ref.name)) refs.push_back(&ref);
+            if (glob.matches(ref.name)) refs.push_back(&ref);
         }
         if (refs.empty()) Fail("print " + Shown(pattern) + ": no control or engine value matches");
         // The output waits for the end of the script, so that a bad line
