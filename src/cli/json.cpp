@@ -168,15 +168,20 @@ std::string JsonNumber(double x) { return std::isfinite(x) ? ShortestText(x) : "
 
 std::string JsonValue(const ControlRef& ref) { return std::visit(ValueWriter{}, ref.target); }
 
-std::string JsonObject(const std::vector<const ControlRef*>& refs) {
+std::string JsonObject(const std::vector<const ControlRef*>& refs, JsonLayout layout) {
+    const bool indented = layout == JsonLayout::Indented;
     std::string out = "{";
     bool first = true;
     for (const ControlRef* ref : refs) {
-        out += first ? "\n  " : ",\n  ";
+        if (indented) {
+            out += first ? "\n  " : ",\n  ";
+        } else if (!first) {
+            out += ",";
+        }
         first = false;
-        out += JsonString(ref->name) + ": " + JsonValue(*ref);
+        out += JsonString(ref->name) + (indented ? ": " : ":") + JsonValue(*ref);
     }
-    out += first ? "}\n" : "\n}\n";
+    out += first || !indented ? "}\n" : "\n}\n";
     return out;
 }
 

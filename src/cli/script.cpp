@@ -194,7 +194,7 @@ class LineReader {
 
 class Runner {
   public:
-    explicit Runner(Calculator& c) : m_registry(c) {}
+    Runner(Calculator& c, JsonLayout layout) : m_registry(c), m_layout(layout) {}
 
     void run(std::string_view line) {
         LineReader in(line);
@@ -225,7 +225,7 @@ class Runner {
         std::vector<const ControlRef*> refs;
         for (const ControlRef& ref : m_registry.all())
             refs.push_back(&ref);
-        m_output += JsonObject(refs);
+        m_output += JsonObject(refs, m_layout);
     }
 
   private:
@@ -468,7 +468,7 @@ class Runner {
         if (refs.empty()) Fail("print " + Shown(pattern) + ": no control or engine value matches");
         // The output waits for the end of the script, so that a bad line
         // prints nothing; a script of 16 MiB of `print` would need far more.
-        std::string object = JsonObject(refs);
+        std::string object = JsonObject(refs, m_layout);
         if (m_output.size() + object.size() > kMaxOutputBytes)
             Fail("print " + Shown(pattern) + ": the output is over " + std::to_string(kMaxOutputBytes / (1024 * 1024)) +
                  " MiB, more than a script may print");
@@ -477,6 +477,7 @@ class Runner {
     }
 
     ControlRegistry m_registry;
+    JsonLayout m_layout;
     std::string m_output;
     bool m_printed = false;
 };
@@ -501,17 +502,18 @@ bool ReadScript(std::istream& in, std::string& text) {
     return !in.bad();
 }
 
-int RunScript(const std::string& script, std::ostream& out, std::ostream& err) {
+int RunScript(const std::string& script, std::ostream& out, std::ostream& err, JsonLayout layout) {
     Calculator calculator;
-    return RunScript(calculator, script, out, err);
+    return RunScript(calculator, script, out, err, layout);
 }
 
-int RunScript(Calculator& calculator, const std::string& script, std::ostream& out, std::ostream& err) {
+int RunScript(Calculator& calculator, const std::string& script, std::ostream& out, std::ostream& err,
+              JsonLayout layout) {
     if (script.size() > kMaxScriptBytes) {
         err << "the script is over " << kMaxScriptBytes / (1024 * 1024) << " MiB, more than a script may hold\n";
         return kBadScript;
     }
-    Runner runner(calculator);
+    Runner runner(calculator, layout);
     // Editors on Windows like to open a file with a byte order mark.
     std::size_t start = script.rfind("\xEF\xBB\xBF", 0) == 0 ? 3 : 0;
     int number = 0;

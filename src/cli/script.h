@@ -2,7 +2,8 @@
 
 // Runs scripts of user actions against a Calculator and prints its state.
 //
-// One action a line; blank lines and lines that start with `#` are skipped:
+// One action a line, ended by LF, CRLF or a lone CR; blank lines and lines
+// that start with `#` are skipped:
 //   select CONTROL "row text" | #N   click a row of a list
 //   check CONTROL 0|1                 set a check box as a click does
 //   type CONTROL "text"               replace the text of a text box or of a list with typing
@@ -13,6 +14,8 @@
 // disabled or whose window is hidden. In a print pattern `*` and `?` are
 // wild, and brackets match themselves, since every indexed name has them:
 // `print State.ArcDPS[*,2]` prints Omega's rows.
+
+#include "cli/json.h"
 
 #include <cstddef>
 #include <iosfwd>
@@ -43,12 +46,14 @@ inline constexpr std::size_t kMaxOutputBytes = 64 * 1024 * 1024;
 // fault to RunScript, which refuses it. False if reading failed.
 bool ReadScript(std::istream& in, std::string& text);
 
-// Runs the script text on a fresh Calculator; writes JSON to `out` and errors
-// to `err`. Returns the exit status above; with kBadScript nothing at all is
+// Runs the script text on a fresh Calculator; writes JSON to `out` in the
+// given layout and errors to `err`. Returns the exit status above; with kBadScript nothing at all is
 // written to `out`.
-int RunScript(const std::string& script, std::ostream& out, std::ostream& err);
+int RunScript(const std::string& script, std::ostream& out, std::ostream& err,
+              JsonLayout layout = JsonLayout::Indented);
 
 // The same on a given Calculator, which keeps what the script did to it.
-int RunScript(Calculator& calculator, const std::string& script, std::ostream& out, std::ostream& err);
+int RunScript(Calculator& calculator, const std::string& script, std::ostream& out, std::ostream& err,
+              JsonLayout layout = JsonLayout::Indented);
 
 } // namespace vantorel

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <sstream>
 #include <string>
@@ -393,6 +394,27 @@ TEST(Script, EachPrintWritesOneObjectOfTheMatchingNamesInRecordOrder) {
     EXPECT_EQ(std::tuple(Keys(objects[1]).size(), Keys(objects[1]).back()), std::tuple(8u, "State.ArcDPS[7,2]"));
     EXPECT_EQ(Keys(objects[2]), (Names{"State.ArcDPS[0,1]"}));
     EXPECT_EQ(Keys(objects[3]), (Names{"Form1.Note"}));
+}
+
+TEST(Script, JsonLinesHoldTheSameMembersOneObjectALine) {
+    // clang-format off
+    struct Case { const char* name; const char* script; std::size_t objects; } cases[] = {
+        {"several prints", "set Form1.Note \"a,\\\"b\\\"}{ [x]\"\nprint Form1.No*\nprint State.ArcDPS[*,1]\nprint Form1.Forward[1]\n", 3},
+        {"the whole state", "# nothing but a comment", 1},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Calculator indentedRun, linesRun;
+        const Result indented = RunOn(indentedRun, k.script);
+        std::ostringstream out, err;
+        ASSERT_EQ(RunScript(linesRun, k.script, out, err, JsonLayout::Lines), 0) << k.name << ": " << err.str();
+        const std::string lines = out.str();
+        EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), static_cast<std::ptrdiff_t>(k.objects)) << k.name;
+        EXPECT_EQ(lines.find("\n "), std::string::npos) << k.name;
+        const auto read = testing::Objects(lines);
+        ASSERT_TRUE(read.has_value()) << k.name << ": " << lines;
+        EXPECT_EQ(*read, Objects(indented)) << k.name;
+    }
 }
 
 TEST(Script, PrintsEachKindInItsOwnForm) {
