@@ -468,7 +468,7 @@ class Runner {
         if (refs.empty()) Fail("print " + Shown(pattern) + ": no control or engine value matches");
         // The output waits for the end of the script, so that a bad line
         // prints nothing; a script of 16 MiB of `print` would need far more.
-        std::string object = JsonObject(refs, m_layout);
+        const std::string object = JsonObject(refs, m_layout);
         if (m_output.size() + object.size() > kMaxOutputBytes)
             Fail("print " + Shown(pattern) + ": the output is over " + std::to_string(kMaxOutputBytes / (1024 * 1024)) +
                  " MiB, more than a script may print");

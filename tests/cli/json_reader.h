@@ -7,7 +7,6 @@
 // text, and refuses anything else.
 
 #include <optional>
-#include <regex>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -79,12 +78,12 @@ inline std::optional<std::vector<Members>> Objects(const std::string& text) {
     return all;
 }
 
-// The keys of a one-line object value such as {"caption":"a","visible":true}.
+// The keys of a one-line object value such as {"caption":"a","visible":true};
+// none for a value that is not an object.
 inline std::vector<std::string> KeysOf(const std::string& object) {
     std::vector<std::string> keys;
-    static const std::regex key(R"re([{,]"(\w+)":)re");
-    for (std::sregex_iterator it(object.begin(), object.end(), key), end; it != end; ++it)
-        keys.push_back((*it)[1]);
+    for (const auto& [key, value] : CompactObject(object).value_or(Members{}))
+        keys.push_back(key);
     return keys;
 }
 
