@@ -168,20 +168,37 @@ std::string JsonNumber(double x) { return std::isfinite(x) ? ShortestText(x) : "
 
 std::string JsonValue(const ControlRef& ref) { return std::visit(ValueWriter{}, ref.target); }
 
-std::string JsonObject(const std::vector<const ControlRef*>& refs) {
+std::string JsonObject(const std::vector<const ControlRef*>& refs, JsonLayout layout) {
+    const bool indented = layout == JsonLayout::Indented;
     std::string out = "{";
     bool first = true;
     for (const ControlRef* ref : refs) {
-        out += first ? "\n  " : ",\n  ";
+        if (indented) {
+            out += first ? "\n  " : ",\n  ";
+        } else if (!first) {
+            out += ",";
+        }
         first = false;
-        out += JsonString(ref->name) + ": " + JsonValue(*ref);
+        out += JsonString(ref->name) + (indented ? ": " : ":") + JsonValue(*ref);
     }
-    out += first ? "}\n" : "\n}\n";
+    out += first || !indented ? "}\n" : "\n}\n";
     return out;
 }
 
-bool GlobMatch(std::string_view pattern, std::string_view name) {
-    // Iterative match with one backtrack point: the last `*` seen.
+bool GlobMatch(std::string_view pattern, std::string_view name) { return NamePattern(pattern).matches(name); }
+
+NamePattern::NamePattern(std::string_view pattern) {
+    m_pattern.reserve(pattern.size());
+    for (const char ch : pattern) {
+        if (ch != '*' || m_pattern.empty() || m_pattern.back() != '*') m_pattern.push_back(ch);
+    }
+}
+
+bool NamePattern::matches(std::string_view name) const {
+    // Greedy match with one backtrack point, the last `*` seen: a later `*`
+    // can take up whatever an earlier one would, so the earlier one is
+    // never tried again.
+    const std::string_view pattern = m_pattern;
     std::size_t p = 0, n = 0;
     std::size_t star = std::string_view::npos, resume = 0;
     while (n < name.size()) {
@@ -198,8 +215,8 @@ bool GlobMatch(std::string_view pattern, std::string_view name) {
             return false;
         }
     }
-    while (p < pattern.size() && pattern[p] == '*')
-        ++p;
+    // Stars are collapsed, so at most one is left before the end.
+    if (p < pattern.size() && pattern[p] == '*') ++p;
     return p == pattern.size();
 }
 

@@ -25,12 +25,30 @@ std::string JsonNumber(double x);
 // number (or true/false) for an engine value.
 std::string JsonValue(const ControlRef& ref);
 
-// One JSON object of the given entries, keyed by name, one entry a line.
-std::string JsonObject(const std::vector<const ControlRef*>& refs);
+// How the objects of a script are laid out: indented, one entry a line, for a
+// person at a terminal; or JSON Lines, one compact object a line, which a
+// program reads a line at a time as one document each.
+enum class JsonLayout { Indented, Lines };
+
+// One JSON object of the given entries, keyed by name, ending in a newline.
+std::string JsonObject(const std::vector<const ControlRef*>& refs, JsonLayout layout);
 
 // Shell-style match of a whole name: `*` any run of characters, `?` any one.
 // Every other character, `[` and `]` included, matches itself, so a pattern
 // can spell a name as it is written: `Form1.Forward[1]`, `State.ArcDPS[*,1]`.
 bool GlobMatch(std::string_view pattern, std::string_view name);
+
+// The same pattern made ready for many names. A run of `*` matches as one
+// does, so it is kept as one: a match then costs about the square of the
+// name's length at worst, however long the pattern, where a megabyte of `*`
+// would otherwise be walked again for every name.
+class NamePattern {
+  public:
+    explicit NamePattern(std::string_view pattern);
+    bool matches(std::string_view name) const;
+
+  private:
+    std::string m_pattern;
+};
 
 } // namespace vantorel

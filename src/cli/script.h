@@ -2,7 +2,8 @@
 
 // Runs scripts of user actions against a Calculator and prints its state.
 //
-// One action a line; blank lines and lines that start with `#` are skipped:
+// One action a line, ended by LF, CRLF or a lone CR; blank lines and lines
+// that start with `#` are skipped:
 //   select CONTROL "row text" | #N   click a row of a list
 //   check CONTROL 0|1                 set a check box as a click does
 //   type CONTROL "text"               replace the text of a text box or of a list with typing
@@ -14,6 +15,9 @@
 // wild, and brackets match themselves, since every indexed name has them:
 // `print State.ArcDPS[*,2]` prints Omega's rows.
 
+#include "cli/json.h"
+
+#include <cstddef>
 #include <iosfwd>
 #include <string>
 
@@ -21,12 +25,35 @@ namespace vantorel {
 
 struct Calculator;
 
-// Runs the script text on a fresh Calculator; writes JSON to `out` and errors
-// to `err`. Returns the exit status: 0, or 2 for a script with an error, in
-// which case nothing at all is written to `out`.
-int RunScript(const std::string& script, std::ostream& out, std::ostream& err);
+// The exit statuses of a script run: it ran and its output was written; the
+// output could not be written (a full disk, a closed pipe); the script has
+// a fault, or is over a limit, and nothing was written.
+inline constexpr int kScriptRan = 0;
+inline constexpr int kOutputFailed = 1;
+inline constexpr int kBadScript = 2;
+
+// The most a script and one of its lines may hold, in bytes. No script a
+// person writes comes near them; they stop a stream without end, such as
+// /dev/zero, before it fills the memory.
+inline constexpr std::size_t kMaxScriptBytes = 16 * 1024 * 1024;
+inline constexpr std::size_t kMaxLineBytes = 64 * 1024;
+// The most all `print` lines of a script may write: some 750 prints of the
+// whole state.
+inline constexpr std::size_t kMaxOutputBytes = 64 * 1024 * 1024;
+
+// Reads a script from `in` a chunk at a time into `text`, and stops as soon
+// as a line or the whole is over its limit: what was read then shows the
+// fault to RunScript, which refuses it. False if reading failed.
+bool ReadScript(std::istream& in, std::string& text);
+
+// Runs the script text on a fresh Calculator; writes JSON to `out` in the
+// given layout and errors to `err`. Returns the exit status above; with kBadScript nothing at all is
+// written to `out`.
+int RunScript(const std::string& script, std::ostream& out, std::ostream& err,
+              JsonLayout layout = JsonLayout::Indented);
 
 // The same on a given Calculator, which keeps what the script did to it.
-int RunScript(Calculator& calculator, const std::string& script, std::ostream& out, std::ostream& err);
+int RunScript(Calculator& calculator, const std::string& script, std::ostream& out, std::ostream& err,
+              JsonLayout layout = JsonLayout::Indented);
 
 } // namespace vantorel

@@ -11,12 +11,15 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <map>
 #include <sstream>
 #include <string>
 #include <sys/wait.h>
+#include <termios.h>
 #include <tuple>
 #include <unistd.h>
 
@@ -56,12 +59,17 @@ class Binary : public ::testing::Test {
 
     // `args` go to the shell as they are; `input`, if any, is standard input.
     Outcome run(const std::string& args, const std::string* input = nullptr) {
-        const fs::path out = m_dir / "out", err = m_dir / "err";
-        std::string command = "'" + std::string(VANTOREL_CLI) + "' " + args;
-        command += input ? " < " + Quoted(write("stdin", *input)) : " < /dev/null";
-        command += " > " + Quoted(out) + " 2> " + Quoted(err);
+        return runFrom(args, input ? write("stdin", *input) : fs::path("/dev/null"));
+    }
+
+    // Standard output goes to `out` if given, such as /dev/full, and is then
+    // not read back.
+    Outcome runFrom(const std::string& args, const fs::path& in, const fs::path& out = {}) {
+        const fs::path to = out.empty() ? m_dir / "out" : out, err = m_dir / "err";
+        std::string command = "'" + std::string(VANTOREL_CLI) + "' " + args + " < " + Quoted(in);
+        command += " > " + Quoted(to) + " 2> " + Quoted(err);
         const int raw = std::system(command.c_str());
-        return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, Slurp(out), Slurp(err)};
+        return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, out.empty() ? Slurp(to) : "", Slurp(err)};
     }
 
     fs::path m_dir;
@@ -76,7 +84,7 @@ TEST_F(Binary, ReadsTheScriptFromAFileOrFromStandardInput) {
         EXPECT_EQ(o.err, "");
         EXPECT_EQ(o.out, fromFile.out) << '"' << args << '"';
     }
-    EXPECT_EQ(fromFile.out, "{\n  \"State.ArcDPS[0,1]\": 0\n}\n");
+    EXPECT_EQ(fromFile.out, "{\"State.ArcDPS[0,1]\":0}\n");
 }
 
 TEST_F(Binary, ExitsWithTwoAndPrintsNothingOnAFailure) {
@@ -86,13 +94,111 @@ TEST_F(Binary, ExitsWithTwoAndPrintsNothingOnAFailure) {
         {"bad line", "-", &bad, "line 2: select Form1.ShipClass[2]: refused, the list is hidden\n"},
         {"missing file", Quoted(m_dir / "absent.txt"), nullptr, "absent.txt"},
         {"a directory", Quoted(m_dir), nullptr, "directory"},
-        {"two scripts", "a.txt b.txt", nullptr, "usage"},
+        {"two scripts", "a.txt b.txt", nullptr, "vantorel-cli: one script at a time\nusage"},
+        {"unknown option", "--jsonlines", nullptr, "vantorel-cli: unknown option --jsonlines\nusage"},
     };
     // clang-format on
     for (const Case& c : cases) {
         const Outcome o = run(c.args, c.input);
         EXPECT_EQ(std::tuple(o.status, o.out), std::tuple(2, "")) << c.name;
         EXPECT_NE(o.err.find(c.says), std::string::npos) << c.name << ": " << o.err;
+    }
+}
+
+// A terminal for standard output. The test holds both ends open, so what the
+// program wrote waits to be read after it has ended.
+class Terminal {
+  public:
+    Terminal() {
+        m_master = ::posix_openpt(O_RDWR | O_NOCTTY);
+        if (m_master < 0 || ::grantpt(m_master) != 0 || ::unlockpt(m_master) != 0) return;
+        m_path = ::ptsname(m_master);
+        m_slave = ::open(m_path.c_str(), O_RDWR | O_NOCTTY);
+        termios raw{};
+        if (m_slave < 0 || ::tcgetattr(m_slave, &raw) != 0) return;
+        ::cfmakeraw(&raw); // no CR before each LF
+        ::tcsetattr(m_slave, TCSANOW, &raw);
+        ::fcntl(m_master, F_SETFL, ::fcntl(m_master, F_GETFL) | O_NONBLOCK);
+    }
+    ~Terminal() {
+        if (m_slave >= 0) ::close(m_slave);
+        if (m_master >= 0) ::close(m_master);
+    }
+    Terminal(const Terminal&) = delete;
+    Terminal& operator=(const Terminal&) = delete;
+
+    bool open() const { return m_slave >= 0; }
+    const std::string& path() const { return m_path; }
+    std::string written() {
+        std::string text;
+        char chunk[4096];
+        for (ssize_t n; (n = ::read(m_master, chunk, sizeof chunk)) > 0;)
+            text.append(chunk, static_cast<std::size_t>(n));
+        return text;
+    }
+
+  private:
+    int m_master = -1, m_slave = -1;
+    std::string m_path;
+};
+
+TEST_F(Binary, WritesIndentedObjectsOnATerminalAndJsonLinesElsewhere) {
+    const fs::path script = write("script.txt", "print State.ArcDPS[0,1]\nprint State.Comparing\n");
+    const std::string indented = "{\n  \"State.ArcDPS[0,1]\": 0\n}\n{\n  \"State.Comparing\": 0\n}\n";
+    const std::string lines = "{\"State.ArcDPS[0,1]\":0}\n{\"State.Comparing\":0}\n";
+    // clang-format off
+    struct Case { const char* name; const char* args; bool terminal; const std::string& expected; } cases[] = {
+        {"a file", "-", false, lines},
+        {"a terminal", "-", true, indented},
+        {"--json-lines on a terminal", "--json-lines -", true, lines},
+        {"--pretty into a file", "--pretty -", false, indented},
+        {"the last option counts", "--pretty --json-lines", false, lines},
+        {"an option after the script", "- --pretty", false, indented},
+        {"a script named like an option", "--pretty -- -", false, indented},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        Terminal terminal;
+        // A machine without pseudo-terminals cannot show the terminal rows.
+        if (c.terminal && !terminal.open()) {
+            std::cout << c.name << ": skipped, no terminal to be had\n";
+            continue;
+        }
+        const Outcome o = runFrom(c.args, script, c.terminal ? fs::path(terminal.path()) : fs::path());
+        EXPECT_EQ(std::tuple(o.status, o.err), std::tuple(0, "")) << c.name;
+        EXPECT_EQ(c.terminal ? terminal.written() : o.out, c.expected) << c.name;
+    }
+}
+
+TEST_F(Binary, StopsReadingInputWithoutEndAtTheLimitOfALine) {
+    // clang-format off
+    struct Case { const char* name; std::string args; fs::path in; } cases[] = {
+        {"a file", "/dev/zero", "/dev/null"},
+        {"standard input", "-", "/dev/zero"},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        const Outcome o = runFrom(c.args, c.in);
+        EXPECT_EQ(std::tuple(o.status, o.out), std::tuple(2, "")) << c.name;
+        EXPECT_EQ(o.err.rfind("line 1: the line is over 64 KiB, more than a line may hold: \\u0000", 0), 0u)
+            << c.name << ": " << o.err;
+    }
+}
+
+TEST_F(Binary, ExitsWithOneWhenTheOutputCannotBeWritten) {
+    if (!fs::exists("/dev/full")) GTEST_SKIP() << "no /dev/full";
+    const std::string script = "print Form1.Note\n";
+    // clang-format off
+    struct Case { const char* name; std::string args; fs::path in; int status; const char* says; } cases[] = {
+        {"a print", "-", write("script.txt", script), 1, "cannot write the output: No space left on device\n"},
+        {"the whole state", "-", "/dev/null", 1, "cannot write the output: No space left on device\n"},
+        {"the help", "--help", "/dev/null", 1, "vantorel-cli: cannot write the output: No space left on device\n"},
+        {"a bad script still says where", "-", write("bad.txt", "bogus\n"), 2, "line 1: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print\n"},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        const Outcome o = runFrom(c.args, c.in, "/dev/full");
+        EXPECT_EQ(std::tuple(o.status, o.err), std::tuple(c.status, c.says)) << c.name;
     }
 }
 

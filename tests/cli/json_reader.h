@@ -1,11 +1,12 @@
 #pragma once
 
-// The scripts print a stream of objects in one layout: "{", one member a line
-// as `  "name": value` with a comma after all but the last, then "}". This
-// reads that layout back, member values as raw text, and refuses any other.
+// The scripts print a stream of objects in one of two layouts. Indented: "{",
+// one member a line as `  "name": value` with a comma after all but the last,
+// then "}". JSON Lines: each object on a line of its own as
+// `{"name":value,"name":value}`. This reads either back, member values as raw
+// text, and refuses anything else.
 
 #include <optional>
-#include <regex>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -15,6 +16,39 @@ namespace vantorel::testing {
 
 using Members = std::vector<std::pair<std::string, std::string>>;
 
+// One object of JSON Lines: the members split at the commas that stand
+// outside every string, object and array.
+inline std::optional<Members> CompactObject(const std::string& line) {
+    if (line.size() < 2 || line.front() != '{' || line.back() != '}') return std::nullopt;
+    Members members;
+    if (line == "{}") return members;
+    const std::size_t close = line.size() - 1;
+    for (std::size_t at = 1; at < close;) {
+        const std::size_t colon = line.find("\":", at);
+        if (line[at] != '"' || colon == std::string::npos) return std::nullopt;
+        std::size_t end = colon + 2;
+        int depth = 0;
+        bool quoted = false;
+        for (; end < close && (quoted || depth > 0 || line[end] != ','); ++end) {
+            const char ch = line[end];
+            if (quoted && ch == '\\') {
+                ++end;
+            } else if (ch == '"') {
+                quoted = !quoted;
+            } else if (!quoted && (ch == '{' || ch == '[')) {
+                ++depth;
+            } else if (!quoted && (ch == '}' || ch == ']')) {
+                --depth;
+            }
+        }
+        if (quoted || depth != 0 || end == colon + 2 || end > close) return std::nullopt;
+        members.emplace_back(line.substr(at + 1, colon - at - 1), line.substr(colon + 2, end - colon - 2));
+        at = end + 1;
+        if (end < close && at == close) return std::nullopt; // a comma before the "}"
+    }
+    return members;
+}
+
 inline std::optional<std::vector<Members>> Objects(const std::string& text) {
     std::vector<Members> all;
     std::istringstream in(text);
@@ -23,6 +57,10 @@ inline std::optional<std::vector<Members>> Objects(const std::string& text) {
         if (!open && line == "{") {
             all.emplace_back();
             open = true;
+        } else if (!open && line.rfind('{', 0) == 0) {
+            std::optional<Members> members = CompactObject(line);
+            if (!members) return std::nullopt;
+            all.push_back(std::move(*members));
         } else if (open && line == "}" && !comma && !all.back().empty()) {
             open = false;
         } else {
@@ -40,12 +78,12 @@ inline std::optional<std::vector<Members>> Objects(const std::string& text) {
     return all;
 }
 
-// The keys of a one-line object value such as {"caption":"a","visible":true}.
+// The keys of a one-line object value such as {"caption":"a","visible":true};
+// none for a value that is not an object.
 inline std::vector<std::string> KeysOf(const std::string& object) {
     std::vector<std::string> keys;
-    static const std::regex key(R"re([{,]"(\w+)":)re");
-    for (std::sregex_iterator it(object.begin(), object.end(), key), end; it != end; ++it)
-        keys.push_back((*it)[1]);
+    for (const auto& [key, value] : CompactObject(object).value_or(Members{}))
+        keys.push_back(key);
     return keys;
 }
 

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <limits>
 #include <string>
+#include <vector>
 
 namespace vantorel {
 namespace {
@@ -74,10 +75,40 @@ TEST(Json, MatchesNamesLikeAShellPattern) {
         {"", "Form1", false},
         {"**", "", true},
         {"Form1.Note", "form1.note", false},
+        {"Form1.***Forward**[*]", "Form1.Forward[1]", true},
+        {"***", "", true},
+        {"a***", "a", true},
+        {"*?*", "", false},
+        {"**?**", "x", true},
+        {"*[*,2]", "State.ArcDPS[0,1]", false},
     };
     // clang-format on
     for (const Case& c : cases)
         EXPECT_EQ(GlobMatch(c.pattern, c.name), c.matches) << c.pattern << " ~ " << c.name;
+}
+
+// A megabyte of `*` once cost a walk of the megabyte for every name.
+TEST(Json, APatternCostsAboutTheNameNotThePatternLength) {
+    std::vector<std::string> names;
+    for (int i = 0; i < 10000; ++i)
+        names.push_back("Form1.FiringArcDPS[" + std::to_string(i) + "]");
+    // clang-format off
+    struct Case { const char* name; std::string pattern; int matches; } cases[] = {
+        {"stars", std::string(1 << 20, '*'), 10000},
+        {"stars around a digit", std::string(1 << 20, '*') + "7" + std::string(1 << 20, '*'), 3439},
+        {"a long tail", "*" + std::string(1 << 20, 'x'), 0},
+        {"stars and queries", [] { std::string p; for (int i = 0; i < 1 << 19; ++i) p += "*?"; return p; }(), 0},
+    };
+    // clang-format on
+    // A pattern that costs its length for every character of every name
+    // would not finish here; one that collapses its stars matches at once.
+    for (const Case& c : cases) {
+        const NamePattern pattern(c.pattern);
+        int matches = 0;
+        for (const std::string& name : names)
+            matches += pattern.matches(name) ? 1 : 0;
+        EXPECT_EQ(matches, c.matches) << c.name;
+    }
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <sstream>
 #include <string>
@@ -113,7 +114,7 @@ TEST(Script, SetAssignsAsTheProgramDoesEvenOnHiddenControls) {
 TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
     const std::function<void(Calculator&)> none;
     // clang-format off
-    struct Case { const char* name; std::function<void(Calculator&)> setup; const char* script; const char* expected; /* the whole message */ } cases[] = {
+    struct Case { const char* name; std::function<void(Calculator&)> setup; std::string script; std::string expected; /* the whole message */ } cases[] = {
         {"unknown verb", none, "\n# a comment\npress Form1.Reset", "line 3: unknown verb \"press\"; the verbs are select, check, type, click, set and print"},
         {"unknown control", none, "click Form1.Rest", "line 1: unknown control Form1.Rest"},
         {"unknown window", none, "check Gamma.RelativeDPS 1", "line 1: unknown control Gamma.RelativeDPS"},
@@ -149,6 +150,15 @@ TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
         {"print: no match", none, "print Form1.Nothing*", "line 1: print Form1.Nothing*: no control or engine value matches"},
         {"unclosed bracket", none, "select Form1.Forward[1 \"Beam Array\"", "line 1: malformed name Form1.Forward[1 \"Beam Array\": a bracket is not closed"},
         {"print: extra text", none, "print Form1.Note Form1.Help", "line 1: print Form1.Note: unexpected text after the value: Form1.Help"},
+        {"long name cut", none, "click Form1." + std::string(300, 'X'), "line 1: unknown control Form1." + std::string(94, 'X') + "..."},
+        {"a hundred characters are not cut", none, "click " + std::string(100, 'c'), "line 1: unknown control " + std::string(100, 'c')},
+        {"long verb cut", none, std::string(150, 'v') + " Form1.Reset", "line 1: unknown verb \"" + std::string(100, 'v') + "...\"; the verbs are select, check, type, click, set and print"},
+        {"cut after a whole character", none, "click " + std::string(99, 'a') + "\xc3\xa9zz", "line 1: unknown control " + std::string(99, 'a') + "\xc3\xa9..."},
+        {"control characters escaped", none, "click Form1.\x01\x7f", "line 1: unknown control Form1.\\u0001\\u007f"},
+        {"long value cut", none, "check Form1.Simplified " + std::string(200, '7'), "line 1: check Form1.Simplified: malformed value " + std::string(100, '7') + "..., expected 0 or 1"},
+        {"long index cut", none, "select Form1.Forward[" + std::string(200, '9') + "] #1", "line 1: Form1.Forward[" + std::string(86, '9') + "...: index out of range; Form1.Forward[1] to Form1.Forward[4]"},
+        {"long text after the value cut", none, "check Form1.Simplified 1 " + std::string(200, 'x'), "line 1: check Form1.Simplified: unexpected text after the value: " + std::string(100, 'x') + "..."},
+        {"long pattern cut", none, "print Nothing" + std::string(200, '?'), "line 1: print Nothing" + std::string(93, '?') + "...: no control or engine value matches"},
         {"blank and comment lines count", none, "   \n# a comment\n\t# indented\r\n\r\nclick Form1.Reset\r\n\nbogus\n", "line 7: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
     };
     // clang-format on
@@ -157,6 +167,204 @@ TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
         if (k.setup) k.setup(c);
         const Result r = RunOn(c, k.script);
         EXPECT_EQ(std::tuple(r.status, r.err, r.out), std::tuple(2, std::string(k.expected) + "\n", "")) << k.name;
+    }
+}
+
+TEST(Script, ANumberThatDoesNotFitIsOutOfRangeAndANonNumberMalformed) {
+    // clang-format off
+    struct Case { const char* name; const char* field; const char* written; const char* outcome; /* the printed value, or the message after "set FIELD: " */ } cases[] = {
+        {"32-bit largest", "State.WindowFitted", "2147483647", "2147483647"},
+        {"32-bit smallest", "State.WindowFitted", "-2147483648", "-2147483648"},
+        {"32-bit over", "State.WindowFitted", "2147483648", "2147483648 is out of range of a 32-bit whole number"},
+        {"32-bit under", "State.WindowFitted", "-2147483649", "-2147483649 is out of range of a 32-bit whole number"},
+        {"32-bit far over", "State.WindowFitted", "99999999999999999999999", "99999999999999999999999 is out of range of a 32-bit whole number"},
+        {"32-bit fraction", "State.WindowFitted", "1.5", "malformed value 1.5, expected a whole number"},
+        {"16-bit largest", "State.RapidFire[1]", "32767", "32767"},
+        {"16-bit smallest", "State.RapidFire[1]", "-32768", "-32768"},
+        {"16-bit over", "State.RapidFire[1]", "32768", "32768 is out of range of a 16-bit whole number"},
+        {"16-bit beyond 32 bits", "State.RapidFire[1]", "2147483648", "2147483648 is out of range of a 16-bit whole number"},
+        {"16-bit exponent", "State.RapidFire[1]", "1e3", "malformed value 1e3, expected a whole number"},
+        {"whole with a plus", "State.RapidFire[1]", "+1", "malformed value +1, expected a whole number"},
+        {"whole, minus alone", "State.RapidFire[1]", "-", "malformed value -, expected a whole number"},
+        {"single denormal", "State.ArcDPS[0,1]", "1e-45", "1e-45"},
+        {"single below its denormals", "State.ArcDPS[0,1]", "1e-46", "1e-46 is out of range of a single"},
+        {"single over", "State.ArcDPS[0,1]", "1e39", "1e39 is out of range of a single"},
+        {"single, a point first", "State.ArcDPS[0,1]", "-.5", "-0.5"},
+        {"single infinity", "State.ArcDPS[0,1]", "inf", "malformed value inf, expected a number"},
+        {"single not a number", "State.ArcDPS[0,1]", "nan", "malformed value nan, expected a number"},
+        {"single, minus infinity", "State.ArcDPS[0,1]", "-infinity", "malformed value -infinity, expected a number"},
+        {"double denormal", "State.DPWCoefficient[1,2,1]", "5e-324", "5e-324"},
+        {"double below its denormals", "State.DPWCoefficient[1,2,1]", "2e-324", "2e-324 is out of range of a double"},
+        {"double over", "State.DPWCoefficient[1,2,1]", "1e309", "1e309 is out of range of a double"},
+        {"double exponent too long", "State.DPWCoefficient[1,2,1]", "1e99999999999999999999", "1e99999999999999999999 is out of range of a double"},
+        {"double hexadecimal", "State.DPWCoefficient[1,2,1]", "0x10", "malformed value 0x10, expected a number"},
+        {"double, exponent cut", "State.DPWCoefficient[1,2,1]", "1e", "malformed value 1e, expected a number"},
+        {"double, a point alone", "State.DPWCoefficient[1,2,1]", ".", "malformed value ., expected a number"},
+        {"double as text", "State.DPWCoefficient[1,2,1]", "\"1\"", "malformed value \"1\", expected a number"},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Program c;
+        const std::string set = std::string("set ") + k.field;
+        const Result r = RunOn(c, set + " " + k.written + "\nprint " + k.field + "\n");
+        const std::string outcome = r.status == 0 ? Printed(r, k.field) : r.err;
+        const std::string expected = r.status == 0 ? k.outcome : "line 1: " + set + ": " + k.outcome + "\n";
+        EXPECT_EQ(outcome, expected) << k.name;
+    }
+}
+
+TEST(Script, ARowNumberBeyondEveryListIsARowThatDoesNotExist) {
+    // clang-format off
+    struct Case { const char* name; const char* script; const char* expected; } cases[] = {
+        {"beyond 32 bits", "select Form1.TargetDistance[1] #99999999999", "line 1: select Form1.TargetDistance[1]: no row #99999999999, the list has rows #0 to #9"},
+        {"below -1", "set Form1.TargetDistance[1] #-99999999999", "line 1: set Form1.TargetDistance[1]: no row #-99999999999, the list has rows #0 to #9"},
+        {"a fraction", "select Form1.TargetDistance[1] #1.5", "line 1: malformed row number #1.5, expected #0, #1, ..."},
+        {"a plus", "select Form1.TargetDistance[1] #+1", "line 1: malformed row number #+1, expected #0, #1, ..."},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Program c;
+        const Result r = RunOn(c, k.script);
+        EXPECT_EQ(std::tuple(r.status, r.err), std::tuple(2, std::string(k.expected) + "\n")) << k.name;
+    }
+}
+
+TEST(Script, AScrollBarTakesOnlyTheValuesBetweenZeroAndItsMaximum) {
+    // clang-format off
+    struct Case { const char* name; const char* bar; int maximum; const char* written; const char* refusal; /* after "set BAR: ", null if taken */ } cases[] = {
+        {"inside", "Form1.HScroll1", 4000, "120", nullptr},
+        {"at the maximum", "Form1.VScroll1", 4000, "4000", nullptr},
+        {"zero on a bar with no room", "Form1.VScroll1", 0, "0", nullptr},
+        {"one past the maximum", "Form1.HScroll1", 4000, "4001", "4001 is out of range of the scroll bar, 0 to 4000"},
+        {"below zero", "Form1.HScroll1", 4000, "-1", "-1 is out of range of the scroll bar, 0 to 4000"},
+        {"the most negative whole number", "Form1.VScroll1", 0, "-2147483648", "-2147483648 is out of range of the scroll bar, 0 to 0"},
+        {"the most negative, across", "Form1.HScroll1", 4000, "-2147483648", "-2147483648 is out of range of the scroll bar, 0 to 4000"},
+        {"a negative maximum counts as 0", "Alpha.VScroll1", -500, "1", "1 is out of range of the scroll bar, 0 to 0"},
+        {"beyond 32 bits", "Omega.VScroll1", 4000, "99999999999", "99999999999 is out of range of the scroll bar, 0 to 4000"},
+        {"a fraction", "Form1.VScroll1", 4000, "1.5", "malformed value 1.5, expected a whole number"},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Program c;
+        ScrollBar& bar = *std::get<ScrollBar*>(ControlRegistry(c).find(k.bar)->target);
+        bar.setRange(k.maximum, 1, 1);
+        const std::string set = std::string("set ") + k.bar;
+        const Result r = RunOn(c, set + " " + k.written + "\nprint " + k.bar + "\n");
+        if (k.refusal) {
+            EXPECT_EQ(std::tuple(r.status, r.err), std::tuple(2, "line 1: " + set + ": " + k.refusal + "\n")) << k.name;
+            EXPECT_EQ(bar.value(), 0) << k.name;
+        } else {
+            const std::string value = Printed(r, k.bar);
+            EXPECT_EQ(value.rfind("{\"value\":" + std::string(k.written) + ",", 0), 0u) << k.name << ": " << value;
+        }
+    }
+}
+
+TEST(Script, LfCrlfAndALoneCrEachEndALine) {
+    // clang-format off
+    struct Case { const char* name; const char* script; /* sets Form1.Note to "a" */ const char* expected; /* the message; "" when the script runs */ } cases[] = {
+        {"lone CR", "# a note\rset Form1.Note \"a\"\rbogus\r", "line 3: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
+        {"lone CR, no error", "# a note\rset Form1.Note \"a\"\rprint Form1.Note", ""},
+        {"CRLF is one end", "# a note\r\n\r\nset Form1.Note \"a\"\r\nbogus", "line 4: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
+        {"LF then CR are two", "# a note\n\rset Form1.Note \"a\"\nbogus", "line 4: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
+        {"mixed", "set Form1.Note \"a\"\r# b\nprint Form1.Note\r\n", ""},
+        {"CR ends a text", "set Form1.Note \"a\"\rset Form1.Note \"b\r\"", "line 2: malformed text: the closing \" is missing"},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Program c;
+        const Result r = RunOn(c, k.script);
+        EXPECT_EQ(std::tuple(r.status, r.err),
+                  std::tuple(*k.expected ? 2 : 0, *k.expected ? std::string(k.expected) + "\n" : ""))
+            << k.name;
+        EXPECT_EQ(c.main.Note.caption(), "a") << k.name;
+    }
+}
+
+TEST(Script, ReadingStopsOneBytePastALineOrAScriptOverItsLimit) {
+    const std::string line(kMaxLineBytes, '#');
+    std::string lines;
+    while (lines.size() <= kMaxScriptBytes)
+        lines += line + "\n";
+    // clang-format off
+    struct Case { const char* name; std::string input; std::size_t read; /* bytes */ } cases[] = {
+        {"a short script", "print\n", 6},
+        {"a line at its limit", line + "\nprint", kMaxLineBytes + 6},
+        {"a line over its limit", line + "xyz\nprint", kMaxLineBytes + 1},
+        {"CR ends a line too", line + "\r" + line + "\r" + line, 3 * kMaxLineBytes + 2},
+        {"zero bytes without end", std::string(2 * kMaxLineBytes, '\0'), kMaxLineBytes + 1},
+        {"a script over its limit", lines, kMaxScriptBytes + 1},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        std::istringstream in(k.input);
+        std::string text;
+        EXPECT_TRUE(ReadScript(in, text)) << k.name;
+        EXPECT_EQ(text.size(), k.read) << k.name;
+        EXPECT_EQ(text, k.input.substr(0, k.read)) << k.name;
+    }
+}
+
+TEST(Script, ALineOrAScriptOverItsLimitIsRefused) {
+    const std::string tail = ", more than a line may hold: ";
+    // clang-format off
+    struct Case { const char* name; std::string script; std::string expected; /* the message; "" when the script runs */ } cases[] = {
+        {"a comment at the limit", "# " + std::string(kMaxLineBytes - 2, 'x') + "\nprint Form1.Note", ""},
+        {"a comment over the limit", "print Form1.Note\n# " + std::string(kMaxLineBytes - 1, 'x'), "line 2: the line is over 64 KiB" + tail + "# " + std::string(98, 'x') + "..."},
+        {"zero bytes", std::string(kMaxLineBytes + 1, '\0'), "line 1: the line is over 64 KiB" + tail + [] { std::string z; for (int i = 0; i < 100; ++i) z += "\\u0000"; return z; }() + "..."},
+        {"blanks count", std::string(kMaxLineBytes, ' ') + "x", "line 1: the line is over 64 KiB" + tail + std::string(100, ' ') + "..."},
+        {"a script at the limit", std::string(kMaxScriptBytes - 16, '\n') + "print Form1.Note", ""},
+        {"a script over the limit", std::string(kMaxScriptBytes - 15, '\n') + "print Form1.Note", "the script is over 16 MiB, more than a script may hold"},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Program c;
+        const Result r = RunOn(c, k.script);
+        EXPECT_EQ(std::tuple(r.status, r.err),
+                  std::tuple(k.expected.empty() ? 0 : 2, k.expected.empty() ? "" : k.expected + "\n"))
+            << k.name;
+    }
+}
+
+// The output waits in memory for the end of the script; a script of 16 MiB
+// of `print` would otherwise ask for hundreds of gigabytes.
+TEST(Script, PrintsStopWhereTheOutputWouldPassItsLimit) {
+    Program once;
+    const std::size_t whole = RunOn(once, "print").out.size();
+    const std::size_t fit = kMaxOutputBytes / whole;
+    std::string script;
+    for (std::size_t n = 0; n <= fit; ++n)
+        script += "print\n";
+    Program c;
+    const Result r = RunOn(c, script);
+    EXPECT_EQ(std::tuple(r.status, r.err, r.out),
+              std::tuple(2,
+                         "line " + std::to_string(fit + 1) +
+                             ": print *: the output is over 64 MiB, more than a script may print\n",
+                         ""));
+}
+
+// A stream that takes nothing, as a full disk or a closed pipe.
+class Refusing final : public std::streambuf {
+  protected:
+    int_type overflow(int_type) override { return traits_type::eof(); }
+    std::streamsize xsputn(const char*, std::streamsize) override { return 0; }
+};
+
+TEST(Script, AnOutputThatCannotBeWrittenIsAFailureOfItsOwn) {
+    // clang-format off
+    struct Case { const char* name; const char* script; int status; const char* says; } cases[] = {
+        {"a print", "print Form1.Note", kOutputFailed, "cannot write the output\n"},
+        {"the whole state", "# nothing", kOutputFailed, "cannot write the output\n"},
+        {"a bad line comes first", "print Form1.Note\nbogus", kBadScript, "line 2: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print\n"},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Refusing refusing;
+        std::ostream out(&refusing);
+        std::ostringstream err;
+        const int status = RunScript(k.script, out, err);
+        EXPECT_EQ(std::tuple(status, err.str()), std::tuple(k.status, k.says)) << k.name;
     }
 }
 
@@ -186,6 +394,27 @@ TEST(Script, EachPrintWritesOneObjectOfTheMatchingNamesInRecordOrder) {
     EXPECT_EQ(std::tuple(Keys(objects[1]).size(), Keys(objects[1]).back()), std::tuple(8u, "State.ArcDPS[7,2]"));
     EXPECT_EQ(Keys(objects[2]), (Names{"State.ArcDPS[0,1]"}));
     EXPECT_EQ(Keys(objects[3]), (Names{"Form1.Note"}));
+}
+
+TEST(Script, JsonLinesHoldTheSameMembersOneObjectALine) {
+    // clang-format off
+    struct Case { const char* name; const char* script; std::size_t objects; } cases[] = {
+        {"several prints", "set Form1.Note \"a,\\\"b\\\"}{ [x]\"\nprint Form1.No*\nprint State.ArcDPS[*,1]\nprint Form1.Forward[1]\n", 3},
+        {"the whole state", "# nothing but a comment", 1},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Calculator indentedRun, linesRun;
+        const Result indented = RunOn(indentedRun, k.script);
+        std::ostringstream out, err;
+        ASSERT_EQ(RunScript(linesRun, k.script, out, err, JsonLayout::Lines), 0) << k.name << ": " << err.str();
+        const std::string lines = out.str();
+        EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), static_cast<std::ptrdiff_t>(k.objects)) << k.name;
+        EXPECT_EQ(lines.find("\n "), std::string::npos) << k.name;
+        const auto read = testing::Objects(lines);
+        ASSERT_TRUE(read.has_value()) << k.name << ": " << lines;
+        EXPECT_EQ(*read, Objects(indented)) << k.name;
+    }
 }
 
 TEST(Script, PrintsEachKindInItsOwnForm) {
