@@ -70,9 +70,9 @@ const char* StateName(WindowState s) {
 struct ValueWriter {
     std::string operator()(Window* w) const {
         return "{\"title\":" + JsonString(w->title()) + ",\"state\":\"" + StateName(w->state()) +
-               "\",\"width\":" + Int(w->width()) + ",\"height\":" + Int(w->height()) +
-               ",\"innerWidth\":" + Int(w->innerWidth()) + ",\"innerHeight\":" + Int(w->innerHeight()) + "," +
-               Common(*w);
+               "\",\"left\":" + Int(w->left()) + ",\"top\":" + Int(w->top()) + ",\"width\":" + Int(w->width()) +
+               ",\"height\":" + Int(w->height()) + ",\"innerWidth\":" + Int(w->innerWidth()) +
+               ",\"innerHeight\":" + Int(w->innerHeight()) + "," + Common(*w);
     }
     std::string operator()(Control* c) const {
         return "{\"left\":" + Int(c->left()) + ",\"top\":" + Int(c->top()) + ",\"width\":" + Int(c->width()) +

@@ -1,6 +1,7 @@
 #include "cli/script.h"
 
 #include "cli/json.h"
+#include "mainwindow/layout.h"
 #include "program/program.h"
 #include "program/registry.h"
 
@@ -261,15 +262,17 @@ class Runner {
     }
 
     // A user can only reach a control that is on show and enabled, on a
-    // window that is on show. The main window counts as on show: a script
-    // runs after the start-up, while the program is open.
+    // window that is on show and enabled (a warning holds the windows it
+    // disables).
     static void usable(const ControlRef& ref, const std::string& what) {
         if (!ref.control) Fail(what + ": refused, an engine value is not a control; use set");
         const std::string kind(KindName(ref.kind()));
         if (!ref.control->visible()) Fail(what + ": refused, the " + kind + " is hidden");
         if (!ref.control->enabled()) Fail(what + ": refused, the " + kind + " is disabled");
-        if (ref.form && ref.form != ref.control && ref.window != "Form1" && !ref.form->visible())
+        if (ref.form && ref.form != ref.control && !ref.form->visible())
             Fail(what + ": refused, window " + ref.window + " is hidden");
+        if (ref.form && ref.form != ref.control && !ref.form->enabled())
+            Fail(what + ": refused, window " + ref.window + " is disabled");
     }
 
     static void wrongKind(const ControlRef& ref, const std::string& what, const char* wanted) {
@@ -503,7 +506,9 @@ bool ReadScript(std::istream& in, std::string& text) {
 }
 
 int RunScript(const std::string& script, std::ostream& out, std::ostream& err, JsonLayout layout) {
+    // A script runs on the program as it stands once its main window shows.
     Program calculator;
+    ShowMainWindowAtStart(calculator);
     return RunScript(calculator, script, out, err, layout);
 }
 

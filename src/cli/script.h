@@ -46,13 +46,15 @@ inline constexpr std::size_t kMaxOutputBytes = 64 * 1024 * 1024;
 // fault to RunScript, which refuses it. False if reading failed.
 bool ReadScript(std::istream& in, std::string& text);
 
-// Runs the script text on a fresh Calculator; writes JSON to `out` in the
-// given layout and errors to `err`. Returns the exit status above; with kBadScript nothing at all is
-// written to `out`.
+// Runs the script text on a fresh program whose main window has shown, as
+// the program stands once started; writes JSON to `out` in the given layout
+// and errors to `err`. Returns the exit status above; with kBadScript nothing
+// at all is written to `out`.
 int RunScript(const std::string& script, std::ostream& out, std::ostream& err,
               JsonLayout layout = JsonLayout::Indented);
 
-// The same on a given Calculator, which keeps what the script did to it.
+// The same on a given Calculator, which keeps what the script did to it. Its
+// windows are as the caller left them: a user can act only on a window on show.
 int RunScript(Calculator& calculator, const std::string& script, std::ostream& out, std::ostream& err,
               JsonLayout layout = JsonLayout::Indented);
 

@@ -6,6 +6,7 @@
 #include "engine/dps.h"
 #include "engine/power.h"
 #include "json_reader.h"
+#include "mainwindow/layout.h"
 #include "program/program.h"
 
 #include <gtest/gtest.h>
@@ -238,6 +239,7 @@ TEST_F(Binary, ExamplesPrintTheArcValuesThatTheEngineComputes) {
         // The same script in this process, then each row worked out again
         // from the counts the script left, as the firing arcs assemble them.
         Program c;
+        ShowMainWindowAtStart(c);
         std::ostringstream ignored, err;
         ASSERT_EQ(RunScript(c, Slurp(entry.path()), ignored, err), 0) << err.str();
         const auto& n = c.state.WeaponCount;

@@ -2,6 +2,7 @@
 
 #include "cli/json.h"
 #include "json_reader.h"
+#include "mainwindow/layout.h"
 #include "program/program.h"
 #include "program/registry.h"
 
@@ -25,7 +26,9 @@ struct Result {
     std::string out, err;
 };
 
+// The script runs as on a started program: the main window shows.
 Result RunOn(Calculator& c, const std::string& script) {
+    if (!c.main.Form1.visible()) ShowMainWindowAtStart(c);
     std::ostringstream out, err;
     Result r;
     r.status = RunScript(c, script, out, err);
@@ -246,6 +249,7 @@ TEST(Script, AScrollBarTakesOnlyTheValuesBetweenZeroAndItsMaximum) {
     // clang-format on
     for (const Case& k : cases) {
         Program c;
+        ShowMainWindowAtStart(c);
         ScrollBar& bar = *std::get<ScrollBar*>(ControlRegistry(c).find(k.bar)->target);
         bar.setRange(k.maximum, 1, 1);
         const std::string set = std::string("set ") + k.bar;
@@ -404,7 +408,8 @@ TEST(Script, JsonLinesHoldTheSameMembersOneObjectALine) {
     };
     // clang-format on
     for (const Case& k : cases) {
-        Calculator indentedRun, linesRun;
+        Program indentedRun, linesRun;
+        ShowMainWindowAtStart(linesRun);
         const Result indented = RunOn(indentedRun, k.script);
         std::ostringstream out, err;
         ASSERT_EQ(RunScript(linesRun, k.script, out, err, JsonLayout::Lines), 0) << k.name << ": " << err.str();
@@ -420,7 +425,7 @@ TEST(Script, JsonLinesHoldTheSameMembersOneObjectALine) {
 TEST(Script, PrintsEachKindInItsOwnForm) {
     // clang-format off
     struct Case { const char* name; Names keys; /* empty for a plain value */ } cases[] = {
-        {"Form1", {"title", "state", "width", "height", "innerWidth", "innerHeight", "enabled", "visible", "back", "fore"}},
+        {"Form1", {"title", "state", "left", "top", "width", "height", "innerWidth", "innerHeight", "enabled", "visible", "back", "fore"}},
         {"Form1.Contents", {"left", "top", "width", "height", "enabled", "visible", "back", "fore"}},
         {"Form1.Simplified", {"value", "caption", "tooltip", "enabled", "visible", "back", "fore"}},
         {"Alpha.TargetResistance", {"text", "tooltip", "enabled", "visible", "back", "fore"}},
