@@ -11,13 +11,13 @@ namespace {
 // that chooses between the skills of that box beside it and the level list
 // below; the weapon skills on the left, the captain's on the right.
 constexpr int kMargin = 240;
-constexpr int kColumnWidth = 4560;
+constexpr int kColumnWidth = 5400;
 constexpr int kColumnLeft[2] = {kMargin, 2 * kMargin + kColumnWidth};
 constexpr int kRowStep = 840;
 constexpr int kCheckHeight = 285;
 constexpr int kListHeight = 315;
 constexpr int kLevelBelow = 345;
-constexpr int kChoiceLeft = 2400;
+constexpr int kChoiceLeft = 3000;
 constexpr int kButtonWidth = 1200;
 constexpr int kButtonHeight = 375;
 constexpr int kButtonsTop = kMargin + 5 * kRowStep;
