@@ -21,8 +21,8 @@ namespace {
 enum class Feeds {
     Levels,       // the levels alone
     Damage,       // Tactical Team raises the weapon skills
-    Resistance,   // Attack Pattern Omega lowers the target's resistance
-    CriticalHits, // Attack Pattern Alpha raises critical chance and severity
+    Resistance,   // the attack patterns: Beta lowers the target's resistance, Omega raises the damage
+    CriticalHits, // Attack Pattern Alpha raises critical chance and severity, and the damage
 };
 
 struct SkillControls {
