@@ -27,6 +27,27 @@ constexpr float kOverloadFactor[4] = {0, 6.041f, 7.253f, 8.467f};
 
 float MineFactor(int level) { return level >= 0 && level <= 3 ? kMineFactor[level] : 1.0f; }
 
+// One torpedo's damage factor under each level of the two torpedo skills.
+struct TorpedoFactors {
+    std::string_view type;
+    float highYield[3];
+    float spread[3];
+};
+
+constexpr TorpedoFactors kTorpedoFactors[] = {
+    {"Quantum", {2.227f, 2.585f, 2.947f}, {1.893f, 2.198f, 2.506f}},
+    {"Photon", {2.167f, 2.565f, 2.97f}, {1.843f, 2.182f, 2.524f}},
+    {"Plasma", {2.594f, 3.0f, 3.405f}, {1.832f, 2.169f, 2.51f}},
+    {"Chroniton", {1.723f, 1.97f, 2.219f}, {1.446f, 1.674f, 1.886f}},
+    {"Transphasic", {1.723f, 1.97f, 2.219f}, {1.464f, 1.674f, 1.886f}},
+};
+
+const TorpedoFactors* TorpedoFactorsOf(std::string_view type) {
+    for (const TorpedoFactors& row : kTorpedoFactors)
+        if (row.type == type) return &row;
+    return nullptr;
+}
+
 // The torpedo type without its trailing blank: "Quantum", "Plasma", ...
 std::string TorpedoType(const Calculator& c, Vessel v) {
     std::string type = GetDamageType(c, v, DamageGroup::Projectile);
@@ -79,33 +100,24 @@ std::string TargetsText(int n) { return n == 1 ? std::string(" (1 Target):") : "
 
 } // namespace
 
+float TorpedoSkillFactor(std::string_view type, TorpedoSkill skill, int level) {
+    const TorpedoFactors* row = TorpedoFactorsOf(type);
+    if (row == nullptr || level < 1 || level > 3) return 1.0f;
+    return skill == TorpedoSkill::HighYield ? row->highYield[level - 1] : row->spread[level - 1];
+}
+
 float GetTorpedoSkill(const Calculator& c, Vessel v) {
-    struct Row {
-        std::string_view type;
-        float highYield[3];
-        float spread[3];
-    };
-    static constexpr Row kRows[] = {
-        {"Quantum", {2.227f, 2.585f, 2.947f}, {1.893f, 2.198f, 2.506f}},
-        {"Photon", {2.167f, 2.565f, 2.97f}, {1.843f, 2.182f, 2.524f}},
-        {"Plasma", {2.594f, 3.0f, 3.405f}, {1.832f, 2.169f, 2.51f}},
-        {"Chroniton", {1.723f, 1.97f, 2.219f}, {1.446f, 1.674f, 1.886f}},
-        {"Transphasic", {1.723f, 1.97f, 2.219f}, {1.464f, 1.674f, 1.886f}},
-    };
     const CalculatorState& s = c.state;
     const std::string type = TorpedoType(c, v);
-    const Row* row = nullptr;
-    for (const Row& r : kRows)
-        if (r.type == type) row = &r;
     // Tricobalt, or no type at all: no skill multiplies it.
-    if (row == nullptr) return 1.0f;
+    if (TorpedoFactorsOf(type) == nullptr) return 1.0f;
 
     const int highYield = s.TorpedoHighYield[v];
-    if (highYield >= 1 && highYield <= 3) return row->highYield[highYield - 1];
+    if (highYield >= 1 && highYield <= 3) return TorpedoSkillFactor(type, TorpedoSkill::HighYield, highYield);
     const int spread = s.TorpedoSpread[v];
     if (spread >= 1 && spread <= 3) {
         const int targets = std::min<int>(s.SkillTargets[v], 3 * spread);
-        return row->spread[spread - 1] * static_cast<float>(targets);
+        return TorpedoSkillFactor(type, TorpedoSkill::Spread, spread) * static_cast<float>(targets);
     }
     return 1.0f;
 }

@@ -7,6 +7,7 @@
 #include "engine/records.h"
 
 #include <string>
+#include <string_view>
 
 namespace vantorel {
 
@@ -16,5 +17,12 @@ float CalculateBurst(Calculator& c, const BurstCounts& n, Vessel v);
 std::string BurstToolTip(Calculator& c, const BurstCounts& n, Vessel v);
 // The factor of the activated torpedo skill on the vessel's torpedo type.
 float GetTorpedoSkill(const Calculator& c, Vessel v);
+
+// The two torpedo skills that share the skills window's Torpedo box.
+enum class TorpedoSkill { HighYield, Spread };
+// The damage factor of one torpedo of a skill at level 1 to 3 on a torpedo
+// type ("Quantum", without the trailing blank). Tricobalt torpedoes, an
+// unknown type and a level outside 1 to 3 give 1: no skill acts on them.
+float TorpedoSkillFactor(std::string_view type, TorpedoSkill skill, int level);
 
 } // namespace vantorel

@@ -128,6 +128,14 @@ void ShowScrollBar(QScrollBar* w, const ScrollBar& f, const Twips& twips) {
     ShowControl(w, f, twips);
 }
 
+void ShowText(QLineEdit* w, const Text& f, const Twips& twips) {
+    const QString text = ToQString(f.text());
+    if (w->text() != text) w->setText(text);
+    SetToolTip(w, f.tooltip());
+    SetPalette(w, QPalette::Base, QPalette::Text, f);
+    ShowControl(w, f, twips);
+}
+
 void ShowPage(QWidget* w, const Control& f, const Twips& twips) {
     SetPalette(w, QPalette::Window, QPalette::WindowText, f);
     ShowControl(w, f, twips);
@@ -181,6 +189,12 @@ void Bind(QPushButton* widget, Button& field, const Twips& twips) {
 void Bind(QScrollBar* widget, ScrollBar& field, const Twips& twips) {
     QObject::connect(widget, &QScrollBar::valueChanged, widget, [&field](int value) { field.setValue(value); });
     Attach(widget, field, twips, ShowScrollBar);
+}
+
+void Bind(QLineEdit* widget, Text& field, const Twips& twips) {
+    QObject::connect(widget, &QLineEdit::textEdited, widget,
+                     [&field](const QString& text) { field.setText(text.toStdString()); });
+    Attach(widget, field, twips, ShowText);
 }
 
 void BindPage(QWidget* widget, Control& field, const Twips& twips) {

@@ -1,5 +1,7 @@
 #include "gui/listbox.h"
 
+#include "gui/checkbox.h"
+
 #include <QAbstractItemView>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
@@ -24,6 +26,12 @@ void ListBox::paintEvent(QPaintEvent* event) {
     QStylePainter painter(this);
     QStyleOptionComboBox option;
     initStyleOption(&option);
+    // The binding gives a disabled list its own colours; its row stands back.
+    if (!isEnabled()) {
+        const QColor text = DisabledText(option.palette.color(QPalette::Text), option.palette.color(QPalette::Base));
+        option.palette.setColor(QPalette::Text, text);
+        option.palette.setColor(QPalette::ButtonText, text);
+    }
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     const QRect text = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, text.width());

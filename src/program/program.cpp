@@ -23,6 +23,9 @@ Program::Program() {
     SetUpSplashWindow(splash);
     WireHandlers(*this);
     StartUp(*this);
+    // The skills windows read the torpedo type that the start has chosen.
+    StartSkillsWindow(*this, 1);
+    StartSkillsWindow(*this, 2);
 }
 
 void StartUp(Calculator& c) {

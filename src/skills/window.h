@@ -8,8 +8,13 @@
 
 namespace vantorel {
 
-// Writes the start values of window `AlphaSkills` (v = 1) or `OmegaSkills`.
+// Writes the captions, rows, tooltips, places and colours of window
+// `AlphaSkills` (v = 1) or `OmegaSkills`.
 void SetUpSkillsWindow(VesselSkills& k, Vessel v);
+// The window's start selections, made once its fields have their events:
+// they fill the level lists that depend on another choice. Alpha's first,
+// whose choices a mirroring Omega copies.
+void StartSkillsWindow(Calculator& c, Vessel v);
 // Names the window's fields under `window`: "AlphaSkills" or "OmegaSkills".
 void RegisterFields(FieldTable& table, VesselSkills& k, const char* window);
 

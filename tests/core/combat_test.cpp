@@ -246,8 +246,11 @@ TEST(Chains, MirroredOmegaFollowsAlpha) {
     EXPECT_EQ(c.state.AccuracyFactor[2], 0.5f) << "combat settings";
     EXPECT_FLOAT_EQ(c.state.ArcDPS[0][2], 0.0f) << "Omega has no weapons";
     c.skills[2].SameAsAlpha.setValue(0);
-    EXPECT_EQ(c.state.BeamSkill[2], 0) << "a free Omega reads its own window";
+    EXPECT_EQ(c.state.BeamSkill[2], 1) << "a free Omega keeps the choices it copied";
     EXPECT_TRUE(c.skills[2].BeamSkillLevel.enabled());
+    c.skills[2].BeamSkillActivated.setValue(0);
+    EXPECT_EQ(std::tuple(c.state.BeamSkill[1], c.state.BeamSkill[2]), std::tuple(1, 0))
+        << "a free Omega reads its own window";
 }
 
 // Custom weapons with nothing on them: no mods, skills or consoles.

@@ -388,7 +388,8 @@ TEST(SkillState, Levels) {
         {"targets", [](VesselSkills& k) { k.Targets.setText("4"); }, {.targets = 4}},
         {"targets not a number", [](VesselSkills& k) { k.Targets.setText("x"); }, {}},
         {"targets empty", [](VesselSkills& k) { k.Targets.setText(""); }, {}},
-        {"targets 0 stays", [](VesselSkills& k) { k.Targets.setText("0"); }, {.targets = 0}},
+        // The engine takes any number; the box's own event holds it to 1 to 10.
+        {"targets 0 stays", [](VesselSkills& k) { k.Targets.setHandler({}); k.Targets.setText("0"); }, {.targets = 0}},
         {"targets half to even", [](VesselSkills& k) { k.Targets.setText(" 2.5 "); }, {.targets = 2}},
     };
     // clang-format on
@@ -414,9 +415,11 @@ TEST(SkillState, MirroredOmegaKeepsItsOwnAttackPatternAlphaLevel) {
     o.AttackPatternAlphaLevel.setIndex(0);
     SkillUpdate(c, 2);
     EXPECT_EQ(Read(c.state, 2), (Levels{.rapid = 2, .alpha = 1, .targets = 3}));
+    // Free again, Omega reads its own window: the cannon skill that Alpha's
+    // events copied into it, and the box ticked there while it mirrored.
     o.SameAsAlpha.setValue(0);
     SkillUpdate(c, 2);
-    EXPECT_EQ(Read(c.state, 2), (Levels{.beam = 1, .targets = 7}));
+    EXPECT_EQ(Read(c.state, 2), (Levels{.beam = 1, .rapid = 2, .targets = 7}));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
-// Renders the main window in its main states to PNG files. It runs on a
+// Renders the main window in its main states, and the skills windows, to PNG
+// files. It runs on a
 // virtual screen of 1920 x 1080 pixels at 96 dpi, so that the pictures are
 // the same on every machine, and drives each state through the fields, as a
 // user's clicks would.
@@ -6,6 +7,8 @@
 #include "mainwindow/layout.h"
 #include "mainwindow/view/mainwindow.h"
 #include "program/program.h"
+#include "skills/skills.h"
+#include "skills/view/skillswindow.h"
 
 #include <QApplication>
 #include <QDir>
@@ -44,7 +47,7 @@ bool Pick(List& list, const std::string& text) {
 
 class Shooter final {
   public:
-    Shooter(vantorel::MainWindow& window, QString folder) : m_window(window), m_folder(std::move(folder)) {}
+    Shooter(QWidget& window, QString folder) : m_window(window), m_folder(std::move(folder)) {}
     bool operator()(const char* name) {
         QApplication::processEvents();
         const QString file = QDir(m_folder).filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
@@ -54,9 +57,47 @@ class Shooter final {
     }
 
   private:
-    vantorel::MainWindow& m_window;
+    QWidget& m_window;
     QString m_folder;
 };
+
+// The skills windows: Alpha's in Relative DPS and in custom mode with the
+// attack patterns open, and Omega's mirroring Alpha's in comparison.
+bool ShootSkills(const QString& folder) {
+    Program c;
+    vantorel::ShowMainWindowAtStart(c);
+    vantorel::VesselSkills& a = c.skills[1];
+    c.main.Skills[1].press();
+    vantorel::SkillsWindow alpha(c, 1);
+    Shooter shoot(alpha, folder);
+
+    a.BeamSkillLevel.click(1);
+    a.BeamSkillActivated.click();
+    a.TorpedoSkillSelected.click(1);
+    a.TorpedoSkillActivated.click();
+    a.Targets.setText("3");
+    bool ok = shoot("skills-relative");
+
+    // Custom mode, with the rebuilds that the settings window runs then.
+    c.Alpha().RelativeDPS.setValue(0);
+    for (vantorel::Vessel v = 1; v <= 2; ++v) {
+        vantorel::AttackPatternUpdate(c, v);
+        vantorel::AttackPatternAlphaUpdate(c, v);
+    }
+    a.TacticalTeamLevel.click(2);
+    a.TacticalTeamActivated.click();
+    a.AttackPatternLevel.click(1);
+    a.AttackPatternActivated.click();
+    a.AttackPatternAlphaLevel.click(1);
+    a.AttackPatternAlpha.click();
+    ok = shoot("skills-custom") && ok;
+
+    c.main.Compare.press();
+    c.main.Skills[2].press();
+    vantorel::SkillsWindow omega(c, 2);
+    Shooter shootOmega(omega, folder);
+    return shootOmega("skills-omega") && ok;
+}
 
 } // namespace
 
@@ -103,5 +144,6 @@ int main(int argc, char* argv[]) {
     Pick(m.Forward[1], "Shuttle ");
     ok = shoot("shuttle") && ok;
 
+    ok = ShootSkills(folder) && ok;
     return ok ? EXIT_SUCCESS : EXIT_FAILURE;
 }

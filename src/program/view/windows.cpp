@@ -1,10 +1,14 @@
 #include "program/view/windows.h"
 
 #include "mainwindow/view/mainwindow.h"
+#include "skills/view/skillswindow.h"
 
 namespace vantorel {
 
-ProgramWindows::ProgramWindows(Calculator& c) : m_c(c), m_main(std::make_unique<MainWindow>(c)) {}
+ProgramWindows::ProgramWindows(Calculator& c) : m_c(c), m_main(std::make_unique<MainWindow>(c)) {
+    for (Vessel v = 1; v <= 2; ++v)
+        makeOnFirstShow(c.skills[v].Form, [&c, v] { return std::make_unique<SkillsWindow>(c, v); });
+}
 
 // The windows go before the fields' views could reach them.
 ProgramWindows::~ProgramWindows() {

@@ -1,0 +1,248 @@
+// The skills windows on a virtual screen of 1920 x 1080 at 96 dpi, made by
+// the program's windows on their first show. Every action goes through the
+// widgets as a user's would: the main window's button, boxes clicked, rows
+// chosen in the drop-down, text typed, the frame's close.
+
+#include "gui/binding.h"
+#include "gui/twips.h"
+#include "mainwindow/layout.h"
+#include "mainwindow/view/mainwindow.h"
+#include "program/program.h"
+#include "program/registry.h"
+#include "program/view/windows.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QTest>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
+using namespace vantorel;
+
+namespace {
+
+QString Q(const std::string& s) { return QString::fromStdString(s); }
+
+void ChooseRow(QComboBox* list, int row) {
+    list->showPopup();
+    QAbstractItemView* rows = list->view();
+    rows->setCurrentIndex(rows->model()->index(row, 0));
+    QTest::keyClick(rows, Qt::Key_Return);
+}
+
+// Whether each widget of a skills window shows what its field holds; the
+// differences, by name.
+QStringList Disagreements(const QWidget& window, const ControlRegistry& registry, const QString& name,
+                          const gui::Twips& twips) {
+    QStringList wrong;
+    for (const ControlRef& ref : registry.all()) {
+        if (Q(ref.window) != name || ref.control == nullptr || ref.kind() == ValueKind::Window) continue;
+        const QString control = Q(ref.name);
+        const QWidget* w = window.findChild<QWidget*>(control);
+        if (!w) {
+            wrong << control + ": no widget";
+            continue;
+        }
+        const Control& f = *ref.control;
+        if (w->isHidden() == f.visible()) wrong << control + ": visible";
+        if (w->isEnabled() != f.enabled()) wrong << control + ": enabled";
+        if (w->geometry() != twips.rect(f)) wrong << control + ": place";
+        switch (ref.kind()) {
+        case ValueKind::Flag: {
+            const Flag& flag = *std::get<Flag*>(ref.target);
+            const auto* q = qobject_cast<const QCheckBox*>(w);
+            if (q->isChecked() != (flag.value() != 0)) wrong << control + ": value";
+            if (q->text() != Q(flag.caption()) || q->toolTip() != Q(flag.tooltip())) wrong << control + ": texts";
+            break;
+        }
+        case ValueKind::List: {
+            const List& list = *std::get<List*>(ref.target);
+            const auto* q = qobject_cast<const QComboBox*>(w);
+            bool sameRows = q->count() == list.count();
+            for (int i = 0; sameRows && i < list.count(); ++i)
+                sameRows = q->itemText(i) == Q(list.row(i));
+            if (!sameRows || q->currentIndex() != list.index()) wrong << control + ": rows";
+            if (q->toolTip() != Q(list.tooltip())) wrong << control + ": tooltip";
+            break;
+        }
+        case ValueKind::Text: {
+            const Text& text = *std::get<Text*>(ref.target);
+            const auto* q = qobject_cast<const QLineEdit*>(w);
+            if (q->text() != Q(text.text())) wrong << control + ": text";
+            if (q->palette().color(QPalette::Base) != gui::ToQColor(text.back())) wrong << control + ": back";
+            break;
+        }
+        case ValueKind::Label: {
+            const Label& label = *std::get<Label*>(ref.target);
+            const auto* q = qobject_cast<const QLabel*>(w);
+            if (q->text() != Q(label.caption())) wrong << control + ": caption";
+            if (q->palette().color(QPalette::WindowText) != gui::ToQColor(label.fore())) wrong << control + ": fore";
+            break;
+        }
+        case ValueKind::Button: {
+            const Button& button = *std::get<Button*>(ref.target);
+            const auto* q = qobject_cast<const QPushButton*>(w);
+            if (q->text() != Q(button.caption()) || q->toolTip() != Q(button.tooltip())) wrong << control + ": texts";
+            break;
+        }
+        default:
+            break;
+        }
+    }
+    return wrong;
+}
+
+} // namespace
+
+class SkillsWindowTest final : public QObject {
+    Q_OBJECT
+
+  private:
+    std::unique_ptr<Program> m_c;
+    std::unique_ptr<ProgramWindows> m_windows;
+
+    QWidget* window(Vessel v) const { return m_windows->widgetOf(m_c->skills[v].Form); }
+    template <typename W> W* find(Vessel v, const char* control) const {
+        const QString prefix = v == 1 ? QStringLiteral("AlphaSkills.") : QStringLiteral("OmegaSkills.");
+        return window(v)->findChild<W*>(prefix + QLatin1String(control));
+    }
+    QPushButton* mainButton(const char* name) const {
+        return m_windows->mainWindow().findChild<QPushButton*>(QStringLiteral("Form1.") + QLatin1String(name));
+    }
+    gui::Twips twips() const { return gui::Twips::forScreen(m_windows->mainWindow().screen()); }
+    void agrees(Vessel v) const {
+        const ControlRegistry registry(*m_c);
+        const QStringList wrong = Disagreements(
+            *window(v), registry, v == 1 ? QStringLiteral("AlphaSkills") : QStringLiteral("OmegaSkills"), twips());
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(QStringLiteral("; "))));
+    }
+
+  private Q_SLOTS:
+    void init() {
+        m_c = std::make_unique<Program>();
+        m_windows = std::make_unique<ProgramWindows>(*m_c);
+        ShowMainWindowAtStart(*m_c);
+        QVERIFY(QTest::qWaitForWindowExposed(&m_windows->mainWindow()));
+    }
+
+    void cleanup() {
+        m_windows.reset();
+        m_c.reset();
+    }
+
+    void opensBelowTheMainWindowOnItsButton() {
+        QVERIFY(!window(1));
+        QTest::mouseClick(mainButton("Skills[1]"), Qt::LeftButton);
+        QWidget* w = window(1);
+        QVERIFY(w && w->isVisible());
+        QCOMPARE(w->windowTitle(), QStringLiteral("Alpha Vessel- Activated Skills"));
+        QCOMPARE(mainButton("Skills[1]")->text(), QStringLiteral("Hide Skills"));
+        const Window& main = m_c->main.Form1;
+        QCOMPARE(w->pos(), QPoint(twips().toPixelsX(main.left()), twips().toPixelsY(main.top() + main.height())));
+        QCOMPARE(w->palette().color(QPalette::Window), QColor(Qt::black));
+        agrees(1);
+
+        QTest::mouseClick(mainButton("Skills[1]"), Qt::LeftButton);
+        QVERIFY(!w->isVisible());
+        QCOMPARE(mainButton("Skills[1]")->text(), QStringLiteral("Activate Skills"));
+    }
+
+    void usingTheControlsReachesTheResults() {
+        QTest::mouseClick(mainButton("Skills[1]"), Qt::LeftButton);
+        auto* beams = find<QCheckBox>(1, "BeamSkillActivated");
+        QTest::mouseClick(beams, Qt::LeftButton, {}, QPoint(8, beams->height() / 2));
+        QCOMPARE(std::tuple(m_c->skills[1].BeamSkillActivated.value(), m_c->state.BeamSkill[1]), std::tuple(1, 1));
+
+        // Scatter Volley's rows take the place of Rapid Fire's at once.
+        ChooseRow(find<QComboBox>(1, "CannonSkillSelected"), 1);
+        QCOMPARE(find<QComboBox>(1, "CannonSkillLevel")->itemText(0),
+                 QStringLiteral("1 (+15% Cannon Damage, Max Targets: 3)"));
+
+        // A number of targets outside 1 to 10 is corrected as it is typed.
+        QLineEdit* targets = find<QLineEdit>(1, "Targets");
+        targets->selectAll();
+        QTest::keyClicks(targets, QStringLiteral("0"));
+        QCOMPARE(targets->text(), QStringLiteral("1"));
+        targets->selectAll();
+        QTest::keyClicks(targets, QStringLiteral("12"));
+        QCOMPARE(std::tuple(targets->text(), m_c->state.SkillTargets[1]), std::tuple(QStringLiteral("10"), 10));
+        agrees(1);
+    }
+
+    void theFramesCloseOnlyHides() {
+        QTest::mouseClick(mainButton("Skills[1]"), Qt::LeftButton);
+        QWidget* w = window(1);
+        m_c->skills[1].TorpedoSkillActivated.setValue(1);
+        QVERIFY(!w->close());
+        QVERIFY(!w->isVisible());
+        QCOMPARE(std::tuple(m_c->skills[1].Form.visible(), mainButton("Skills[1]")->text()),
+                 std::tuple(false, QStringLiteral("Activate Skills")));
+        QTest::mouseClick(mainButton("Skills[1]"), Qt::LeftButton);
+        QCOMPARE(window(1), w);
+        QVERIFY(find<QCheckBox>(1, "TorpedoSkillActivated")->isChecked());
+        QTest::mouseClick(find<QPushButton>(1, "Close"), Qt::LeftButton);
+        QVERIFY(!w->isVisible());
+    }
+
+    void omegasWindowFollowsAlphaUntilFreed() {
+        QTest::mouseClick(mainButton("Compare"), Qt::LeftButton);
+        QTest::mouseClick(mainButton("Skills[2]"), Qt::LeftButton);
+        QWidget* w = window(2);
+        QVERIFY(w && w->isVisible());
+        const Window& main = m_c->main.Form1;
+        const Window& form = m_c->skills[2].Form;
+        QCOMPARE(form.left() + form.width(), main.left() + main.width());
+        QCOMPARE(w->x(), twips().toPixelsX(form.left()));
+        QVERIFY(!find<QPushButton>(2, "Help")->isVisible());
+        auto* beams = find<QCheckBox>(2, "BeamSkillActivated");
+        QVERIFY(!beams->isEnabled());
+        QVERIFY(!find<QComboBox>(2, "BeamSkillLevel")->isEnabled());
+        agrees(2);
+
+        // A disabled caption stands back from the window's white ones.
+        const QImage caption = beams->grab().toImage();
+        int brightest = 0;
+        for (int x = caption.width() / 3; x < caption.width(); ++x)
+            for (int y = 0; y < caption.height(); ++y)
+                brightest = std::max(brightest, qGray(caption.pixel(x, y)));
+        QVERIFY2(brightest > 0 && brightest < 200, qPrintable(QString::number(brightest)));
+
+        m_c->skills[1].BeamSkillActivated.setValue(1);
+        QVERIFY(beams->isChecked());
+        auto* same = find<QCheckBox>(2, "SameAsAlpha");
+        QTest::mouseClick(same, Qt::LeftButton, {}, QPoint(8, same->height() / 2));
+        QCOMPARE(m_c->skills[2].SameAsAlpha.value(), 0);
+        QVERIFY(beams->isEnabled() && beams->isChecked());
+        QCOMPARE(find<QLineEdit>(2, "Targets")->palette().color(QPalette::Base), QColor(Qt::white));
+        QTest::mouseClick(beams, Qt::LeftButton, {}, QPoint(8, beams->height() / 2));
+        QCOMPARE(std::tuple(m_c->state.BeamSkill[1], m_c->state.BeamSkill[2]), std::tuple(1, 0));
+        agrees(2);
+
+        QTest::mouseClick(mainButton("HideCompare"), Qt::LeftButton);
+        QVERIFY(!w->isVisible());
+        QVERIFY(!beams->isEnabled() && beams->isChecked());
+    }
+};
+
+int main(int argc, char* argv[]) {
+    const std::filesystem::path screen = std::filesystem::temp_directory_path() / "vantorel-skills-test-screen.json";
+    std::ofstream(screen) << R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [)"
+                          << R"({"name": "Screen", "x": 0, "y": 0, "width": 1920, "height": 1080,)"
+                          << R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+    qputenv("QT_QPA_PLATFORM", QByteArray("offscreen:configfile=") + QByteArray::fromStdString(screen.string()));
+    QApplication app(argc, argv);
+    QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
+    SkillsWindowTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "skills_test.moc"
