@@ -56,6 +56,8 @@ void HideCompareClicked(Calculator& c) {
     c.skills[2].Form.setVisible(false);
     c.skills[2].SameAsAlpha.setValue(1);
     m.Advanced[2].setCaption("Show Settings");
+    // The skills window is hidden too, so its button offers to show it again.
+    m.Skills[2].setCaption("Activate Skills");
 
     m.Form1.setWidth(9950);
     FitWindow(c);

@@ -308,6 +308,7 @@ TEST(Comparison, HideCompareResetsOmega) {
     c.Omega().SameAsAlpha.setValue(0);
     c.skills[2].SameAsAlpha.setValue(0);
     m.Advanced[2].setCaption("Hide Settings");
+    m.Skills[2].setCaption("Hide Skills");
     CalculateFiringArcs(c);
     c.state.ArcDPS[6][2] = 50.0f;
     ASSERT_NE(c.state.ArcDPS[0][2], 0.0f);
@@ -317,7 +318,8 @@ TEST(Comparison, HideCompareResetsOmega) {
     EXPECT_EQ(c.state.Comparing, 0);
     EXPECT_FALSE(c.Omega().Form.visible());
     EXPECT_EQ(c.Omega().SameAsAlpha.value() + c.skills[2].SameAsAlpha.value(), 2);
-    EXPECT_EQ(std::tuple(m.Advanced[2].caption(), m.Form1.width()), std::tuple("Show Settings", 9950));
+    EXPECT_EQ(std::tuple(m.Advanced[2].caption(), m.Skills[2].caption(), m.Form1.width()),
+              std::tuple("Show Settings", "Activate Skills", 9950));
     EXPECT_FALSE(m.Primarylabel.visible() || m.HideCompare.visible() || m.Cline.visible());
     EXPECT_TRUE(m.Compare.visible());
     for (Control* ctl : OmegaColumn(m))
