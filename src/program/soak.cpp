@@ -273,7 +273,7 @@ std::string_view InvariantName(Invariant invariant) {
     case Invariant::Nesting:
         return "events nest too deeply";
     case Invariant::ListIndex:
-        return "a list's index is outside its rows";
+        return "a list's selection is not one of its rows";
     case Invariant::DPSCaption:
         return "a DPS box shows no plain number";
     case Invariant::Comparing:
@@ -394,9 +394,14 @@ std::optional<Finding> Invariants::listIndexes() const {
     for (const ControlRef& ref : m_registry.all()) {
         if (ref.kind() != ValueKind::List) continue;
         const List& list = *std::get<List*>(ref.target);
-        if (list.index() < -1 || list.index() >= list.count())
-            return Finding{Invariant::ListIndex, ref.name + " has index " + std::to_string(list.index()) + " of " +
+        const int index = list.index();
+        if (index < -1 || index >= list.count())
+            return Finding{Invariant::ListIndex, ref.name + " has index " + std::to_string(index) + " of " +
                                                      std::to_string(list.count()) + " rows"};
+        // Only a list with typing holds a text that is not its selected row.
+        if (!list.typing() && list.text() != (index >= 0 ? list.row(index) : std::string()))
+            return Finding{Invariant::ListIndex,
+                           ref.name + " shows " + Shown(list.text()) + " with index " + std::to_string(index)};
     }
     return std::nullopt;
 }

@@ -23,7 +23,7 @@ namespace vantorel {
 enum class Invariant {
     Failure,       // the program threw while it handled the action
     Nesting,       // events nest no deeper than Invariants::kMaxNesting
-    ListIndex,     // a list's index is -1 or one of its rows
+    ListIndex,     // a list's index is -1 or one of its rows, whose text it shows
     DPSCaption,    // a DPS box shows a number in plain text, or nothing
     Comparing,     // State.Comparing agrees with what the main window shows
     OmegaSettings, // a mirrored Omega has Alpha's combat factors
