@@ -17,17 +17,18 @@ namespace vantorel {
 
 namespace {
 
+// What every control has, as one block without padding.
+struct Common {
+    std::int32_t enabled, visible;
+    std::uint32_t back, fore;
+    std::int32_t left, top, width, height;
+};
+
 // The parts of an entry that the program shows or keeps, given one by one to
-// `out` with their names: the bytes of a snapshot, or the text of a change.
+// `out` with their names: the bytes of a snapshot, a comparison with them, or
+// the text of a change.
 template <typename Out> void Parts(Out& out, const Control& c) {
-    out("enabled", c.enabled());
-    out("visible", c.visible());
-    out("back", c.back());
-    out("fore", c.fore());
-    out("left", c.left());
-    out("top", c.top());
-    out("width", c.width());
-    out("height", c.height());
+    out("", Common{c.enabled(), c.visible(), c.back(), c.fore(), c.left(), c.top(), c.width(), c.height()});
 }
 
 template <typename Out> void Parts(Out& out, const Window& w) {
@@ -97,23 +98,83 @@ template <typename Out> void Visit(Out& out, const ControlRef& ref) {
     std::visit([&out](const auto* p) { Parts(out, *p); }, ref.target);
 }
 
-// Appends the parts as bytes. Numbers go in bit for bit, so that a value
+// Numbers and blocks go in and are compared bit for bit, so that a value
 // that turns into NaN, or from 0 to -0, counts as a change.
-struct Writer {
-    std::string& bytes;
+template <typename T>
+concept Plain = std::is_trivially_copyable_v<T>;
 
-    template <typename T>
-    requires std::is_arithmetic_v<T>
-    void operator()(const char*, T value) { bytes.append(reinterpret_cast<const char*>(&value), sizeof value); }
-    void operator()(const char* name, const std::string& s) {
-        (*this)(name, s.size());
-        bytes += s;
+// Appends the parts as bytes to a buffer that only grows.
+class Writer {
+  public:
+    explicit Writer(std::vector<char>& bytes) : m_bytes(bytes) {
+        if (m_bytes.empty()) m_bytes.resize(1 << 16);
+        m_at = m_bytes.data();
+        m_end = m_at + m_bytes.size();
+    }
+    std::size_t size() const { return static_cast<std::size_t>(m_at - m_bytes.data()); }
+
+    template <Plain T> void operator()(const char*, const T& value) { put(&value, sizeof value); }
+    void operator()(const char*, const std::string& s) {
+        const std::size_t n = s.size();
+        put(&n, sizeof n);
+        put(s.data(), n);
     }
     void operator()(const char* name, const std::vector<std::string>& rows) {
-        (*this)(name, rows.size());
+        const std::size_t n = rows.size();
+        put(&n, sizeof n);
         for (const std::string& row : rows)
             (*this)(name, row);
     }
+
+  private:
+    void put(const void* p, std::size_t n) {
+        if (static_cast<std::size_t>(m_end - m_at) < n) {
+            const std::size_t used = size();
+            m_bytes.resize(std::max(2 * m_bytes.size(), used + n));
+            m_at = m_bytes.data() + used;
+            m_end = m_bytes.data() + m_bytes.size();
+        }
+        std::memcpy(m_at, p, n);
+        m_at += n;
+    }
+
+    std::vector<char>& m_bytes;
+    char* m_at;
+    char* m_end;
+};
+
+// Compares the parts with the bytes of one entry, in place.
+class Matcher {
+  public:
+    Matcher(const char* at, const char* end) : m_at(at), m_end(end) {}
+    bool same() const { return m_same && m_at == m_end; }
+
+    template <Plain T> void operator()(const char*, const T& value) { match(&value, sizeof value); }
+    void operator()(const char*, const std::string& s) {
+        const std::size_t n = s.size();
+        match(&n, sizeof n);
+        match(s.data(), n);
+    }
+    void operator()(const char* name, const std::vector<std::string>& rows) {
+        const std::size_t n = rows.size();
+        match(&n, sizeof n);
+        for (const std::string& row : rows)
+            (*this)(name, row);
+    }
+
+  private:
+    void match(const void* p, std::size_t n) {
+        if (!m_same) return;
+        if (static_cast<std::size_t>(m_end - m_at) < n || std::memcmp(m_at, p, n) != 0) {
+            m_same = false;
+            return;
+        }
+        m_at += n;
+    }
+
+    const char* m_at;
+    const char* m_end;
+    bool m_same = true;
 };
 
 std::string Shown(bool b) { return b ? "true" : "false"; }
@@ -158,6 +219,20 @@ struct Differ {
     void operator()(const char* name, T now) {
         const T was = read<T>();
         if (std::memcmp(&was, &now, sizeof now) != 0) note(name, Shown(was), Shown(now));
+    }
+    void operator()(const char*, const Common& now) {
+        const Common was = read<Common>();
+        const auto one = [this](const char* name, std::int64_t a, std::int64_t b) {
+            if (a != b) note(name, Shown(a), Shown(b));
+        };
+        one("enabled", was.enabled, now.enabled);
+        one("visible", was.visible, now.visible);
+        one("back", was.back, now.back);
+        one("fore", was.fore, now.fore);
+        one("left", was.left, now.left);
+        one("top", was.top, now.top);
+        one("width", was.width, now.width);
+        one("height", was.height, now.height);
     }
     void operator()(const char* name, const std::string& now) {
         const std::string_view was = readText();
@@ -264,6 +339,12 @@ constexpr const char* kOmegaOnlyWhileComparing[] = {
 constexpr const char* kOmegaArrays[] = {"Form1.CForward", "Form1.CRear", "Form1.CFiringArcDPS", "Form1.CFiringArcLabel",
                                         "Form1.CFiringArc"};
 
+const ControlRef& Find(const ControlRegistry& registry, const char* name) {
+    const ControlRef* ref = registry.find(name);
+    if (!ref || !ref->control) throw std::logic_error(std::string("the checks need the control ") + name);
+    return *ref;
+}
+
 } // namespace
 
 std::string_view InvariantName(Invariant invariant) {
@@ -291,24 +372,21 @@ std::string_view InvariantName(Invariant invariant) {
 }
 
 void Snapshot::take(const FieldTable& table) {
-    m_bytes.clear();
     m_ends.clear();
-    Writer out{m_bytes};
+    Writer out(m_bytes);
     for (const ControlRef& ref : table) {
         Visit(out, ref);
-        m_ends.push_back(m_bytes.size());
+        m_ends.push_back(out.size());
     }
 }
 
-const ControlRef* Snapshot::firstChange(const FieldTable& table) {
-    const std::string_view bytes(m_bytes);
+const ControlRef* Snapshot::firstChange(const FieldTable& table) const {
     std::size_t start = 0;
     for (std::size_t i = 0; i < table.size(); ++i) {
         if (i >= m_ends.size()) return &table[i];
-        m_scratch.clear();
-        Writer out{m_scratch};
-        Visit(out, table[i]);
-        if (bytes.substr(start, m_ends[i] - start) != m_scratch) return &table[i];
+        Matcher match(m_bytes.data() + start, m_bytes.data() + m_ends[i]);
+        Visit(match, table[i]);
+        if (!match.same()) return &table[i];
         start = m_ends[i];
     }
     return nullptr;
@@ -318,14 +396,25 @@ std::string Snapshot::describeChange(const FieldTable& table, const ControlRef& 
     const auto i = static_cast<std::size_t>(&ref - table.data());
     if (i >= m_ends.size()) return "not in the snapshot";
     const std::size_t start = i == 0 ? 0 : m_ends[i - 1];
-    Differ differ{std::string_view(m_bytes).substr(start, m_ends[i] - start), {}};
+    Differ differ{std::string_view(m_bytes.data() + start, m_ends[i] - start), {}};
     Visit(differ, ref);
     return differ.changes;
 }
 
-Invariants::Invariants(Calculator& c, const ControlRegistry& registry) : m_c(c), m_registry(registry) {
+Invariants::Invariants(Calculator& c, const ControlRegistry& registry)
+    : m_c(c), m_registry(registry), m_compare(&Find(registry, "Form1.Compare")),
+      m_hideCompare(&Find(registry, "Form1.HideCompare")) {
     if (c.results.showArcs != &ShowArcBoxes)
         throw std::logic_error("the checks expect the main window to show the arcs of a recalculation");
+    for (const char* name : kOmegaColumn)
+        m_omegaColumn.push_back(&Find(registry, name));
+    for (const char* name : kOmegaOnlyWhileComparing)
+        m_omegaOnlyWhileComparing.push_back(&Find(registry, name));
+    for (const ControlRef& ref : registry.all()) {
+        if (ref.kind() == ValueKind::List) m_lists.push_back(&ref);
+        for (const char* base : kOmegaArrays)
+            if (ref.base == base) m_omegaOnlyWhileComparing.push_back(&ref);
+    }
     for (const ControlRef& ref : registry.all()) {
         Control* control = ref.control;
         if (!control || !control->hasHandler()) continue;
@@ -391,17 +480,16 @@ std::optional<Finding> Invariants::check() {
 }
 
 std::optional<Finding> Invariants::listIndexes() const {
-    for (const ControlRef& ref : m_registry.all()) {
-        if (ref.kind() != ValueKind::List) continue;
-        const List& list = *std::get<List*>(ref.target);
+    for (const ControlRef* ref : m_lists) {
+        const List& list = *std::get<List*>(ref->target);
         const int index = list.index();
         if (index < -1 || index >= list.count())
-            return Finding{Invariant::ListIndex, ref.name + " has index " + std::to_string(index) + " of " +
+            return Finding{Invariant::ListIndex, ref->name + " has index " + std::to_string(index) + " of " +
                                                      std::to_string(list.count()) + " rows"};
         // Only a list with typing holds a text that is not its selected row.
         if (!list.typing() && list.text() != (index >= 0 ? list.row(index) : std::string()))
             return Finding{Invariant::ListIndex,
-                           ref.name + " shows " + Shown(list.text()) + " with index " + std::to_string(index)};
+                           ref->name + " shows " + Shown(list.text()) + " with index " + std::to_string(index)};
     }
     return std::nullopt;
 }
@@ -425,26 +513,18 @@ std::optional<Finding> Invariants::comparing() const {
     if (state != 0 && state != -1)
         return Finding{Invariant::Comparing, "State.Comparing is " + std::to_string(state) + ", neither 0 nor -1"};
     const bool on = state != 0;
-    const char* const mode = on ? " while comparing" : " while not comparing";
-    const auto expect = [&](const char* name, bool shown) -> std::optional<Finding> {
-        const ControlRef* ref = m_registry.find(name);
-        if (!ref || !ref->control) throw std::logic_error(std::string("no control ") + name);
+    const auto expect = [on](const ControlRef* ref, bool shown) -> std::optional<Finding> {
         if (ref->control->visible() == shown) return std::nullopt;
-        return Finding{Invariant::Comparing, ref->name + (shown ? " is hidden" : " is shown") + mode};
+        return Finding{Invariant::Comparing, ref->name + (shown ? " is hidden" : " is shown") +
+                                                 (on ? " while comparing" : " while not comparing")};
     };
-    if (auto f = expect("Form1.Compare", !on)) return f;
-    if (auto f = expect("Form1.HideCompare", on)) return f;
-    for (const char* name : kOmegaColumn)
-        if (auto f = expect(name, on)) return f;
+    if (auto f = expect(m_compare, !on)) return f;
+    if (auto f = expect(m_hideCompare, on)) return f;
+    for (const ControlRef* ref : m_omegaColumn)
+        if (auto f = expect(ref, on)) return f;
     if (on) return std::nullopt;
-    for (const char* name : kOmegaOnlyWhileComparing)
-        if (auto f = expect(name, false)) return f;
-    for (const char* base : kOmegaArrays) {
-        for (const ControlRef& ref : m_registry.all()) {
-            if (ref.base != base || !ref.control->visible()) continue;
-            return Finding{Invariant::Comparing, ref.name + " is shown" + mode};
-        }
-    }
+    for (const ControlRef* ref : m_omegaOnlyWhileComparing)
+        if (auto f = expect(ref, false)) return f;
     return std::nullopt;
 }
 

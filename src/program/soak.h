@@ -44,14 +44,13 @@ class Snapshot final {
   public:
     void take(const FieldTable& table);
     // The first entry that differs from the snapshot, null if none.
-    const ControlRef* firstChange(const FieldTable& table);
+    const ControlRef* firstChange(const FieldTable& table) const;
     // What differs in the entry, "caption: \"1\" -> \"2\"; ...".
     std::string describeChange(const FieldTable& table, const ControlRef& ref) const;
 
   private:
-    std::string m_bytes;
+    std::vector<char> m_bytes;       // grows to the largest snapshot taken
     std::vector<std::size_t> m_ends; // where each entry's bytes end
-    std::string m_scratch;
 };
 
 // The rules of a program that a user works, checked after each action. The
@@ -92,6 +91,13 @@ class Invariants final {
 
     Calculator& m_c;
     const ControlRegistry& m_registry;
+    std::vector<const ControlRef*> m_lists;
+    // Shown while not comparing, shown while comparing, shown exactly while
+    // comparing, hidden while not comparing.
+    const ControlRef* m_compare;
+    const ControlRef* m_hideCompare;
+    std::vector<const ControlRef*> m_omegaColumn;
+    std::vector<const ControlRef*> m_omegaOnlyWhileComparing;
     std::vector<std::pair<Control*, std::function<void()>>> m_handlers;
     int m_depth = 0;
     int m_deepest = 0;
