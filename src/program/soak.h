@@ -108,6 +108,10 @@ class Invariants final {
 struct SoakOptions {
     // The work area of the screen in twips; the program's own if none.
     std::optional<WorkArea> screen;
+    // Run on the program after its start, before the checks and the first
+    // action: for runs that reach further than the program's own controls
+    // do yet. Its script then replays only on a program prepared alike.
+    std::function<void(Calculator&)> prepare;
 };
 
 struct SoakReport {

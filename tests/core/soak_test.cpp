@@ -25,7 +25,9 @@ TEST(Soak, TwentyThousandActionsBreakNoRule) {
     } runs[] = {{1, 6000, {}}, {2, 6000, kSmallScreen}, {3, 4000, {}}, {4, 4000, kSmallScreen}};
     long total = 0;
     for (const Run& run : runs) {
-        const SoakReport report = RunSoak(run.seed, run.actions, {run.screen});
+        SoakOptions options;
+        options.screen = run.screen;
+        const SoakReport report = RunSoak(run.seed, run.actions, options);
         total += report.actions;
         ASSERT_FALSE(report.finding.has_value()) << report.script;
         EXPECT_EQ(report.actions, run.actions) << "seed " << run.seed;

@@ -1,10 +1,15 @@
-// vantorel-soak [--actions N] [--seed S] [--per-run L] [--scripts DIR]
+// vantorel-soak [--actions N] [--seed S] [--per-run L] [--scripts DIR] [--open-windows]
 //
 // Walks N random user actions (default 1,000,000) through fresh programs of L
 // actions each (default 10,000), seeded S, S+1, ... (default 1); every other
 // program opens on a small screen, so that the scroll bars take part. Prints
 // the actions walked, the time and every finding; with --scripts, writes
 // each finding's actions as a vantorel-cli script into DIR.
+//
+// --open-windows also lets `Advanced[v]` and `Skills[v]` show and hide their
+// vessel's settings and skills windows, which the main window cannot do yet,
+// so that the walk reaches their controls. Such a run's scripts replay only on
+// a program wired alike.
 
 #include "program/soak.h"
 
@@ -22,7 +27,8 @@ namespace {
 constexpr int kBadUsage = 2;
 constexpr unsigned long long kShownPerRule = 3;
 
-const char* const kUsage = "usage: vantorel-soak [--actions N] [--seed S] [--per-run L] [--scripts DIR]\n";
+const char* const kUsage =
+    "usage: vantorel-soak [--actions N] [--seed S] [--per-run L] [--scripts DIR] [--open-windows]\n";
 
 bool ReadNumber(const char* text, unsigned long long& value) {
     char* end = nullptr;
@@ -31,16 +37,36 @@ bool ReadNumber(const char* text, unsigned long long& value) {
     return errno == 0 && end != text && *end == '\0' && text[0] != '-';
 }
 
+// What the two buttons of each vessel column will do: show the window, or
+// hide it again.
+void OpenWindowsByTheirButtons(vantorel::Calculator& c) {
+    for (vantorel::Vessel v = 1; v <= 2; ++v) {
+        vantorel::Button& advanced = c.main.Advanced[v];
+        vantorel::Window& settings = c.settings[v].Form;
+        advanced.setHandler([&advanced, &settings] {
+            settings.setVisible(!settings.visible());
+            advanced.setCaption(settings.visible() ? "Hide Settings" : "Show Settings");
+        });
+        vantorel::Window& skills = c.skills[v].Form;
+        c.main.Skills[v].setHandler([&skills] { skills.setVisible(!skills.visible()); });
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     unsigned long long total = 1000000, seed = 1, perRun = 10000;
     std::string scripts;
+    bool openWindows = false;
     for (int i = 1; i < argc; ++i) {
         const std::string_view arg = argv[i];
         if (arg == "--help" || arg == "-h") {
             std::cout << kUsage;
             return 0;
+        }
+        if (arg == "--open-windows") {
+            openWindows = true;
+            continue;
         }
         if (i + 1 >= argc) {
             std::cerr << kUsage;
@@ -73,6 +99,7 @@ int main(int argc, char** argv) {
     for (unsigned long long s = seed; walked < total; ++s) {
         vantorel::SoakOptions options;
         if (runs % 2 == 1) options.screen = smallScreen;
+        if (openWindows) options.prepare = OpenWindowsByTheirButtons;
         const long length = static_cast<long>(std::min(perRun, total - walked));
         const vantorel::SoakReport report = vantorel::RunSoak(s, length, options);
         ++runs;
