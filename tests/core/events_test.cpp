@@ -129,6 +129,32 @@ TEST(Shuttles, ArrayFactorFromTheBeamModifier) {
     EXPECT_NEAR(ShuttleArrayModifier(c, 1, 2), (base + 7.2 / 50 * 0.8889786 / 2) * ((rare - 1) / 2 + 1) * 0.76, 1e-5);
 }
 
+// The bursts read the shuttle rank list too, so they must wait for its
+// rebuild like the rows: one recalculation, not the next, shows the burst.
+TEST(Shuttles, BurstReadsTheRebuiltRankList) {
+    // clang-format off
+    struct Case { const char* name; int relative, rankRow, grade, newRankRow; } cases[] = {
+        {"a first array, custom weapons", 0, 3, -1, 3},
+        {"a grade beyond the rows of a higher rank", 1, 3, 7, 5},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Program c;
+        Captain(c, 0, k.rankRow);
+        c.Alpha().RelativeDPS.setValue(k.relative);
+        c.skills[1].BeamOverloadActivated.setValue(1);
+        if (k.grade >= 0) Shuttle(c, 0, k.rankRow, k.grade);
+        c.Alpha().Rank.setIndex(k.newRankRow);
+        c.main.Forward[1].setText("Shuttle Beam Array");
+        CalculateFiringArcs(c);
+        const float shown = c.state.ArcDPS[6][1];
+        CalculateFiringArcs(c);
+        EXPECT_GT(shown, 0.0f) << k.name;
+        EXPECT_EQ(shown, c.state.ArcDPS[6][1]) << k.name;
+        EXPECT_EQ(c.main.FiringArcDPS[12].caption(), PlainText(c.state.ArcDPS[6][1])) << k.name;
+    }
+}
+
 TEST(Shuttles, PartialCriticalBonus) {
     // clang-format off
     struct Case { const char* name; float chance, severity, share; int weapons; float expected; } cases[] = {
