@@ -597,6 +597,19 @@ std::optional<Finding> Invariants::arcDPS() {
     return std::nullopt;
 }
 
+void OpenWindowsByTheirButtons(Calculator& c) {
+    for (Vessel v = 1; v <= 2; ++v) {
+        Button& advanced = c.main.Advanced[v];
+        Window& settings = c.settings[v].Form;
+        advanced.setHandler([&advanced, &settings] {
+            settings.setVisible(!settings.visible());
+            advanced.setCaption(settings.visible() ? "Hide Settings" : "Show Settings");
+        });
+        Window& skills = c.skills[v].Form;
+        c.main.Skills[v].setHandler([&skills] { skills.setVisible(!skills.visible()); });
+    }
+}
+
 SoakReport RunSoak(std::uint64_t seed, long actions, const SoakOptions& options) {
     SoakReport report;
     report.seed = seed;

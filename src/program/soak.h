@@ -126,6 +126,11 @@ struct SoakReport {
     std::string script;
 };
 
+// A preparation that lets `Advanced[v]` and `Skills[v]` show and hide their
+// vessel's settings and skills windows, as they will once those windows are
+// built, so that a run reaches the windows' controls.
+void OpenWindowsByTheirButtons(Calculator& c);
+
 // Takes up to `actions` actions on a fresh program, from `seed`.
 SoakReport RunSoak(std::uint64_t seed, long actions, const SoakOptions& options = {});
 

@@ -37,21 +37,6 @@ bool ReadNumber(const char* text, unsigned long long& value) {
     return errno == 0 && end != text && *end == '\0' && text[0] != '-';
 }
 
-// What the two buttons of each vessel column will do: show the window, or
-// hide it again.
-void OpenWindowsByTheirButtons(vantorel::Calculator& c) {
-    for (vantorel::Vessel v = 1; v <= 2; ++v) {
-        vantorel::Button& advanced = c.main.Advanced[v];
-        vantorel::Window& settings = c.settings[v].Form;
-        advanced.setHandler([&advanced, &settings] {
-            settings.setVisible(!settings.visible());
-            advanced.setCaption(settings.visible() ? "Hide Settings" : "Show Settings");
-        });
-        vantorel::Window& skills = c.skills[v].Form;
-        c.main.Skills[v].setHandler([&skills] { skills.setVisible(!skills.visible()); });
-    }
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -99,7 +84,7 @@ int main(int argc, char** argv) {
     for (unsigned long long s = seed; walked < total; ++s) {
         vantorel::SoakOptions options;
         if (runs % 2 == 1) options.screen = smallScreen;
-        if (openWindows) options.prepare = OpenWindowsByTheirButtons;
+        if (openWindows) options.prepare = vantorel::OpenWindowsByTheirButtons;
         const long length = static_cast<long>(std::min(perRun, total - walked));
         const vantorel::SoakReport report = vantorel::RunSoak(s, length, options);
         ++runs;
