@@ -74,9 +74,10 @@ class Invariants final {
     // of the check; when the rules hold it changes nothing.
     std::optional<Finding> check();
 
-    // Text typed into a list with typing raises no event, so what the
-    // windows show waits for the next recalculation to take it in. Until
-    // then the results are not compared with a fresh recalculation.
+    // Text typed into a list with typing raises no event, nor does a click
+    // on a control without a handler, so what the windows show waits for the
+    // next recalculation to take it in. Until then the results are not
+    // compared with a fresh recalculation.
     bool awaitingRecalculation() const { return m_awaiting; }
     int deepestNesting() const { return m_deepest; }
 
@@ -92,8 +93,7 @@ class Invariants final {
     Calculator& m_c;
     const ControlRegistry& m_registry;
     std::vector<const ControlRef*> m_lists;
-    // Shown while not comparing, shown while comparing, shown exactly while
-    // comparing, hidden while not comparing.
+    // The controls that State.Comparing decides the showing of.
     const ControlRef* m_compare;
     const ControlRef* m_hideCompare;
     std::vector<const ControlRef*> m_omegaColumn;
