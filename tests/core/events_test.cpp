@@ -439,6 +439,27 @@ TEST(PowerModel, ExtrapolatedRows) {
     EXPECT_EQ(PowerBonusAt(c, 1, 100), 0.0f);
 }
 
+// A bonus beyond any ship's only takes the power to its ends; the rows stay
+// whole numbers and the level stays within 35 to 125.
+TEST(PowerModel, BonusFarOutOfRange) {
+    const std::string digits300(300, '9');
+    // clang-format off
+    struct Case { std::string equipment; int level; const char* firstRow; } cases[] = {
+        {"9999999999", 125, "25 (125)"},
+        {digits300, 125, "25 (125)"},
+        {"-9999999999", 35, nullptr}, // no setting reaches 35
+    };
+    // clang-format on
+    for (const auto& k : cases) {
+        Program c;
+        Extrapolate(c, 1, k.equipment.c_str());
+        const List& power = c.main.PowerLevel[1];
+        EXPECT_EQ(GetPowerLevel(c, 1, Bonus::With), k.level) << k.equipment.substr(0, 12);
+        EXPECT_EQ(power.count() > 0 ? power.row(0) : std::string(), k.firstRow ? k.firstRow : "")
+            << k.equipment.substr(0, 12);
+    }
+}
+
 TEST(PowerModel, ShipBonusByClassAndTier) {
     // clang-format off
     struct Case { const char* shipClass; const char* tier; /* start of the tier row */ int subclass, bonus; } cases[] = {
