@@ -97,6 +97,12 @@ void CalculateFiringArcs(Calculator& c) {
     WorkOutBursts(c, 1);
     if (comparing) WorkOutBursts(c, 2);
     if (c.results.showArcs) c.results.showArcs(c);
+    // A burst of shuttle arrays reads the grade in the shuttle rank list,
+    // which the main window has only now rebuilt for the captain's rank: work
+    // it out again with the grade it is shown with. The grade scales a burst
+    // and never turns it to 0, so the boxes shown stay right.
+    for (Vessel v = 1; v <= (comparing ? 2 : 1); ++v)
+        if (c.state.WeaponCount[Slot::ShuttleBeamArrays][v] > 0) WorkOutBursts(c, v);
     WorkOutRows(c, 1);
     if (comparing) WorkOutRows(c, 2);
     if (c.results.showResults) c.results.showResults(c);

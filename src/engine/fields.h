@@ -47,6 +47,7 @@ class Control {
     // The handler runs when the control's value is assigned (see subclasses).
     void setHandler(std::function<void()> handler) { m_handler = std::move(handler); }
     bool hasHandler() const { return static_cast<bool>(m_handler); }
+    const std::function<void()>& handler() const { return m_handler; }
     // A bound widget refreshes itself through this hook; one view per field.
     void setView(std::function<void()> view) { m_view = std::move(view); }
 

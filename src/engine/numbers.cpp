@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 #include <type_traits>
 
 namespace vantorel {
@@ -171,7 +172,14 @@ double Round(double x, int n) {
     return std::nearbyint(x * scale) / scale;
 }
 
-int WholeNumber(double x) { return static_cast<int>(std::nearbyint(x)); }
+int WholeNumber(double x) {
+    // A typed value may lie far beyond any whole number: it takes the nearer
+    // end, so that the caller's own range still holds, and NaN counts as 0.
+    const double whole = std::nearbyint(x);
+    if (whole >= 2147483647.0) return std::numeric_limits<int>::max();
+    if (whole <= -2147483648.0) return std::numeric_limits<int>::min();
+    return whole == whole ? static_cast<int>(whole) : 0;
+}
 
 std::optional<double> NumericValue(std::string_view text) {
     std::size_t i = 0;

@@ -15,7 +15,8 @@ namespace vantorel {
 float Round(float x, int n = 0);
 double Round(double x, int n = 0);
 
-// A whole number from a number: half to even ("CInt").
+// A whole number from a number: half to even ("CInt"). Beyond the range of
+// an int it takes the nearer end; NaN gives 0.
 int WholeNumber(double x);
 
 // Whether the whole text is a number: blanks around it, a sign and a decimal

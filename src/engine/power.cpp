@@ -158,7 +158,7 @@ void CalculatePower(Calculator& c, Vessel v, Rebuild when) {
     list.clear();
     if (v == 2) UpdateSameAsAlphaPower(c);
     for (int s = 25; s <= 100; s += 5) {
-        const int level = std::min(static_cast<int>(Round(static_cast<float>(s) + PowerBonusAt(c, v, s), 0)), 125);
+        const int level = std::min(WholeNumber(static_cast<float>(s) + PowerBonusAt(c, v, s)), 125);
         if (level < 35) continue;
         std::string row = std::to_string(s);
         if (level != s) row += " (" + std::to_string(level) + ")";

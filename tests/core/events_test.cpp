@@ -129,6 +129,32 @@ TEST(Shuttles, ArrayFactorFromTheBeamModifier) {
     EXPECT_NEAR(ShuttleArrayModifier(c, 1, 2), (base + 7.2 / 50 * 0.8889786 / 2) * ((rare - 1) / 2 + 1) * 0.76, 1e-5);
 }
 
+// The bursts read the shuttle rank list too, so they must wait for its
+// rebuild like the rows: one recalculation, not the next, shows the burst.
+TEST(Shuttles, BurstReadsTheRebuiltRankList) {
+    // clang-format off
+    struct Case { const char* name; int relative, rankRow, grade, newRankRow; } cases[] = {
+        {"a first array, custom weapons", 0, 3, -1, 3},
+        {"a grade beyond the rows of a higher rank", 1, 3, 7, 5},
+    };
+    // clang-format on
+    for (const Case& k : cases) {
+        Program c;
+        Captain(c, 0, k.rankRow);
+        c.Alpha().RelativeDPS.setValue(k.relative);
+        c.skills[1].BeamOverloadActivated.setValue(1);
+        if (k.grade >= 0) Shuttle(c, 0, k.rankRow, k.grade);
+        c.Alpha().Rank.setIndex(k.newRankRow);
+        c.main.Forward[1].setText("Shuttle Beam Array");
+        CalculateFiringArcs(c);
+        const float shown = c.state.ArcDPS[6][1];
+        CalculateFiringArcs(c);
+        EXPECT_GT(shown, 0.0f) << k.name;
+        EXPECT_EQ(shown, c.state.ArcDPS[6][1]) << k.name;
+        EXPECT_EQ(c.main.FiringArcDPS[12].caption(), PlainText(c.state.ArcDPS[6][1])) << k.name;
+    }
+}
+
 TEST(Shuttles, PartialCriticalBonus) {
     // clang-format off
     struct Case { const char* name; float chance, severity, share; int weapons; float expected; } cases[] = {
@@ -417,6 +443,27 @@ TEST(PowerModel, ExtrapolatedRows) {
     EXPECT_FLOAT_EQ(PowerBonusAt(c, 1, 100), 15.0f);
     c.settings[1].ExtrapolatePower.setValue(0);
     EXPECT_EQ(PowerBonusAt(c, 1, 100), 0.0f);
+}
+
+// A bonus beyond any ship's only takes the power to its ends; the rows stay
+// whole numbers and the level stays within 35 to 125.
+TEST(PowerModel, BonusFarOutOfRange) {
+    const std::string digits300(300, '9');
+    // clang-format off
+    struct Case { std::string equipment; int level; const char* firstRow; } cases[] = {
+        {"9999999999", 125, "25 (125)"},
+        {digits300, 125, "25 (125)"},
+        {"-9999999999", 35, nullptr}, // no setting reaches 35
+    };
+    // clang-format on
+    for (const auto& k : cases) {
+        Program c;
+        Extrapolate(c, 1, k.equipment.c_str());
+        const List& power = c.main.PowerLevel[1];
+        EXPECT_EQ(GetPowerLevel(c, 1, Bonus::With), k.level) << k.equipment.substr(0, 12);
+        EXPECT_EQ(power.count() > 0 ? power.row(0) : std::string(), k.firstRow ? k.firstRow : "")
+            << k.equipment.substr(0, 12);
+    }
 }
 
 TEST(PowerModel, ShipBonusByClassAndTier) {

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <charconv>
+#include <cmath>
+#include <limits>
 #include <optional>
 #include <string>
 #include <tuple>
@@ -26,6 +28,9 @@ TEST(Numbers, RoundsHalfToEvenKeepingTheType) {
     static_assert(std::is_same_v<decltype(Round(1.0f, 1)), float>);
     EXPECT_EQ(std::tuple(Round(100.0004f, 3), WholeNumberOf("2.5"), WholeNumberOf("3.5")), std::tuple(100.0f, 2, 4));
     EXPECT_EQ(std::tuple(WholeNumberOf(" 9 "), WholeNumberOf("x", 1)), std::tuple(9, 1));
+    // Far beyond an int: the nearer end, as a range check after it expects.
+    EXPECT_EQ(std::tuple(WholeNumber(1e10), WholeNumber(-1e300), WholeNumber(std::nan(""))),
+              std::tuple(std::numeric_limits<int>::max(), std::numeric_limits<int>::min(), 0));
 }
 
 TEST(Numbers, NumericText) {
