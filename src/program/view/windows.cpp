@@ -1,10 +1,13 @@
 #include "program/view/windows.h"
 
+#include "graph/view/graphwindow.h"
 #include "mainwindow/view/mainwindow.h"
 
 namespace vantorel {
 
-ProgramWindows::ProgramWindows(Calculator& c) : m_c(c), m_main(std::make_unique<MainWindow>(c)) {}
+ProgramWindows::ProgramWindows(Calculator& c) : m_c(c), m_main(std::make_unique<MainWindow>(c)) {
+    makeOnFirstShow(c.graph.Form, [&c] { return std::make_unique<GraphWindowView>(c); });
+}
 
 // The windows go before the fields' views could reach them.
 ProgramWindows::~ProgramWindows() {
