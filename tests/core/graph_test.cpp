@@ -620,6 +620,34 @@ TEST(GraphWindow, NoDpsDrawsTitlesOnly) {
     EXPECT_EQ(g.Form.frontRequests(), before + 1);
 }
 
+TEST(GraphWindow, StandardScaleCountsTheArcsOnShow) {
+    // clang-format off
+    struct Case { const char* name; int simplified; ArcValues alpha, omega; std::string top; int lines; } cases[] = {
+        {"every arc counts", 0, Arcs(100, 1000, 100, 100, 100, 100), Arcs(0, 0, 0, 0, 0, 0), "1100", 5},
+        {"Omega's values count too", 0, Arcs(100, 100, 100, 100, 100, 100), Arcs(0, 0, 0, 0, 730, 0), "800", 5},
+        {"simplified: only forward, side and rear", 1, Arcs(100, 1000, 1000, 1000, 120, 90), Arcs(0, 0, 0, 0, 0, 0), "150", 2},
+        {"missing data does not raise the scale", 0, Arcs(-1, -1, 20, -1, -1, -1), Arcs(0, 0, 0, 0, 0, 0), "50", 5},
+        {"nothing to show: no line", 0, Arcs(-1, 0, 0, -1, 0, 0), Arcs(0, 0, 0, 0, 0, 0), "1000", 0},
+    };
+    // clang-format on
+    OpenGraph o(kNothing, kNothing);
+    for (const Case& k : cases) {
+        SCOPED_TRACE(k.name);
+        o.c.main.Simplified.setValue(k.simplified);
+        for (int row = 0; row <= 5; ++row) {
+            o.c.state.ArcDPS[row][1] = k.alpha[row];
+            o.c.state.ArcDPS[row][2] = k.omega[row];
+        }
+        GraphControl(o.c);
+        EXPECT_EQ(std::tuple(o.g().YAxis[10].caption(), o.visibleLines()), std::tuple(k.top, k.lines));
+    }
+    // A closed graph is left as it is.
+    o.c.main.GraphResults.press();
+    o.c.state.ArcDPS[0][1] = 5000;
+    GraphControl(o.c);
+    EXPECT_EQ(o.g().YAxis[10].caption(), "1000");
+}
+
 TEST(GraphWindow, HiddenKeyStaysHiddenAcrossRedraws) {
     OpenGraph o(kBeams, kRearBeams);
     GraphWindow& g = o.g();
