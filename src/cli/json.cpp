@@ -98,7 +98,8 @@ struct ValueWriter {
     std::string operator()(Picture* p) const { return "{\"image\":" + JsonString(p->image()) + "," + Common(*p); }
     std::string operator()(Line* l) const {
         return "{\"x1\":" + Int(l->x1()) + ",\"y1\":" + Int(l->y1()) + ",\"x2\":" + Int(l->x2()) +
-               ",\"y2\":" + Int(l->y2()) + "," + Common(*l);
+               ",\"y2\":" + Int(l->y2()) + ",\"style\":\"" + (l->style() == LineStyle::Dotted ? "dotted" : "solid") +
+               "\"," + Common(*l);
     }
     std::string operator()(ScrollBar* s) const {
         return "{\"value\":" + Int(s->value()) + ",\"maximum\":" + Int(s->maximum()) +

@@ -340,6 +340,13 @@ class Window : public Control {
         else
             setVisible(false);
     }
+    // Asks for the window to come to the front of the others. Each request
+    // counts, so that a view which sees the count grow raises its window.
+    int frontRequests() const { return m_frontRequests; }
+    void bringToFront() {
+        ++m_frontRequests;
+        changed();
+    }
     int innerWidth() const { return m_innerWidth; }
     int innerHeight() const { return m_innerHeight; }
     void setInnerSize(int w, int h) {
@@ -354,6 +361,7 @@ class Window : public Control {
     WindowState m_state = WindowState::Normal;
     int m_innerWidth = 0;
     int m_innerHeight = 0;
+    int m_frontRequests = 0;
 };
 
 // A control array with the index base of the program: Indexed<List, 1, 4> is

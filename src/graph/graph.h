@@ -17,5 +17,8 @@ void DisplayGraph(Calculator& c);
 void GraphResultsClicked(Calculator& c);
 // The axis captions and segment ends that follow Simplified.
 void SimplifiedGraphAxes(Calculator& c);
+// Closes the graph window. It is really closed: the mode, the folded key
+// and the bring-to-front choice do not outlive it.
+void CloseGraph(Calculator& c);
 
 } // namespace vantorel

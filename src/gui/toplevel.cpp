@@ -19,7 +19,7 @@ constexpr int kDesignFrameHeight = 405;
 } // namespace
 
 TopLevel::TopLevel(QWidget* window, Window& field, const Twips& twips)
-    : QObject(window), m_window(window), m_field(field), m_twips(twips) {
+    : QObject(window), m_window(window), m_field(field), m_twips(twips), m_frontRequests(field.frontRequests()) {
     // Only the main window's closing ends the program.
     window->setAttribute(Qt::WA_QuitOnClose, false);
     window->installEventFilter(this);
@@ -64,6 +64,10 @@ void TopLevel::show() {
     if (m_window->isVisible() != f.visible()) {
         m_window->setVisible(f.visible());
         // A window asked to show again comes to the front.
+        if (f.visible()) m_window->raise();
+    }
+    if (f.frontRequests() != m_frontRequests) {
+        m_frontRequests = f.frontRequests();
         if (f.visible()) m_window->raise();
     }
 }

@@ -40,6 +40,8 @@ class TopLevel final : public QObject {
     // True while the window follows its field: the events that this raises
     // are not the user's.
     bool m_following = false;
+    // The field's requests to come to the front that have been answered.
+    int m_frontRequests = 0;
 };
 
 } // namespace vantorel::gui

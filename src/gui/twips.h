@@ -19,6 +19,10 @@ class Twips final {
     explicit Twips(double dpiX = 96.0, double dpiY = 96.0);
     static Twips forScreen(const QScreen* screen);
 
+    // The scale itself, for drawings that place things between pixels.
+    double pixelsPerTwipX() const { return 1.0 / m_perPixelX; }
+    double pixelsPerTwipY() const { return 1.0 / m_perPixelY; }
+
     int toPixelsX(int twips) const;
     int toPixelsY(int twips) const;
     int fromPixelsX(int pixels) const;

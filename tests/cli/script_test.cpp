@@ -433,7 +433,7 @@ TEST(Script, PrintsEachKindInItsOwnForm) {
         {"Form1.FiringArcDPS[0]", {"caption", "tooltip", "enabled", "visible", "back", "fore"}},
         {"Form1.Compare", {"caption", "tooltip", "enabled", "visible", "back", "fore"}},
         {"Form1.AlphaImage", {"image", "enabled", "visible", "back", "fore"}},
-        {"Form1.Cline", {"x1", "y1", "x2", "y2", "enabled", "visible", "back", "fore"}},
+        {"Form1.Cline", {"x1", "y1", "x2", "y2", "style", "enabled", "visible", "back", "fore"}},
         {"Form1.VScroll1", {"value", "maximum", "smallStep", "largeStep", "enabled", "visible", "back", "fore"}},
         {"State.ArcDPS[0,1]", {}},
     };

@@ -73,6 +73,7 @@ TEST(Registry, CoversEveryFieldOfEveryRecord) {
                       At(c.settings[v].vessel) + sizeof(Vessel));
         ExpectCovered(registry, c.skills[v], "skills " + std::to_string(v), At(c.skills[v].vessel) + sizeof(Vessel));
     }
+    ExpectCovered(registry, c.graph, "Graph");
     // Only [1..6][2..8][1..5] of the coefficients have names; the array
     // counts as one.
     const auto begin = At(c.state), end = begin + sizeof c.state;
@@ -113,6 +114,10 @@ TEST(Registry, FindsFieldsByTheProgramsNamesAndIndexBases) {
         {"State.WeaponCount[11,2]", At(c.state.WeaponCount[11][2]), ValueKind::Int16},
         {"State.ArcShown[13]", At(c.state.ArcShown[13]), ValueKind::Bool},
         {"State.DPWCoefficient[6,8,5]", At(c.state.DPWCoefficient[6][8][5]), ValueKind::Double},
+        {"Graph.Line1[29]", At(c.graph.Line1[29]), ValueKind::Line},
+        {"Graph.AxisLine[1]", At(c.graph.AxisLine[1]), ValueKind::Line},
+        {"Graph.KeyIcon[5]", At(c.graph.KeyIcon[5]), ValueKind::Control},
+        {"Graph.KeyShown", At(c.graph.KeyShown), ValueKind::Bool},
     };
     // clang-format on
     for (const Case& k : cases) {
@@ -121,8 +126,8 @@ TEST(Registry, FindsFieldsByTheProgramsNamesAndIndexBases) {
         EXPECT_EQ(std::tuple(k.field, ref->kind()), std::tuple(SpanOf(*ref).start, k.kind)) << k.name;
     }
     // Outside the bases, or a name that differs: nothing.
-    for (const char* name :
-         {"Form1.Forward[0]", "State.ArcDPS[0,3]", "State.DPWCoefficient[1,1,1]", "form1.Forward[1]"})
+    for (const char* name : {"Form1.Forward[0]", "State.ArcDPS[0,3]", "State.DPWCoefficient[1,1,1]", "form1.Forward[1]",
+                             "Graph.AxisLine[0]", "Graph.Line1[30]"})
         EXPECT_EQ(registry.find(name), nullptr) << name;
     EXPECT_TRUE(registry.isArray("State.DPWCoefficient"));
     EXPECT_FALSE(registry.isArray("Form1.Simplified"));

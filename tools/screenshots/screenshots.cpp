@@ -1,12 +1,13 @@
-// Renders the main window in its main states, and the skills windows, to PNG
-// files. It runs on a
-// virtual screen of 1920 x 1080 pixels at 96 dpi, so that the pictures are
-// the same on every machine, and drives each state through the fields, as a
-// user's clicks would.
+// Renders the windows of the program in their main states to PNG files. It
+// runs on a virtual screen of 1920 x 1080 pixels at 96 dpi, so that the
+// pictures are the same on every machine, and drives each state through the
+// fields, as a user's clicks would.
 
+#include "graph/key.h"
 #include "mainwindow/layout.h"
 #include "mainwindow/view/mainwindow.h"
 #include "program/program.h"
+#include "program/view/windows.h"
 #include "skills/skills.h"
 #include "skills/view/skillswindow.h"
 
@@ -19,6 +20,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -99,6 +101,74 @@ bool ShootSkills(const QString& folder) {
     return shootOmega("skills-omega") && ok;
 }
 
+const char* const kKeyPlaces[13] = {
+    "none free: lower right", "lower right",        "lower left",        "upper right",      "upper left",
+    "middle right",           "middle left",        "lower right, near", "lower left, near", "upper right, near",
+    "upper left, near",       "middle right, near", "middle left, near"};
+
+// The graph window in each mode, for one build and then for two.
+bool ShootGraphs(const QString& folder) {
+    Program c;
+    vantorel::ProgramWindows windows(c);
+    vantorel::ShowMainWindowAtStart(c);
+    vantorel::MainSelection& m = c.main;
+    Pick(m.ShipClass[1], "Escort");
+    Pick(m.Forward[1], "Dual Heavy Cannons");
+    Pick(m.Forward[2], "Dual Beam Bank");
+    Pick(m.Forward[3], "Beam Array");
+    Pick(m.Forward[4], "Torpedo");
+    Pick(m.Rear[1], "Beam Array");
+    Pick(m.Rear[2], "Turret");
+    m.GraphResults.press();
+    QWidget* graph = windows.widgetOf(c.graph.Form);
+    if (!graph) return false;
+    Shooter shoot(*graph, folder);
+    vantorel::GraphWindow& g = c.graph;
+    const auto shot = [&](const char* name, int mode) {
+        g.GraphMode.click(mode);
+        std::vector<vantorel::SeriesYs> series;
+        for (int s = 0; s <= 5; ++s)
+            if (g.KeyLabel[s].visible()) series.push_back(vantorel::SeriesYsOf(g, s));
+        std::printf("%s: key %s\n", name,
+                    g.Key.visible() ? kKeyPlaces[vantorel::FindKeyPlace(series).place + 1] : "not shown");
+        return shoot(name);
+    };
+    bool ok = shot("graph-standard", 0);
+    ok = shot("graph-power", 1) && ok;
+    ok = shot("graph-range", 2) && ok;
+
+    m.Compare.press();
+    Pick(m.ShipClass[2], "Cruiser");
+    Pick(m.CForward[1], "Dual Beam Bank");
+    Pick(m.CForward[2], "Beam Array");
+    Pick(m.CForward[3], "Beam Array");
+    Pick(m.CRear[1], "Beam Array");
+    Pick(m.CRear[2], "Beam Array");
+    Pick(m.CRear[3], "Beam Array");
+    ok = shot("graph-standard-compared", 0) && ok;
+    ok = shot("graph-power-compared", 1) && ok;
+    ok = shot("graph-range-compared", 2) && ok;
+
+    // The same cannon build with and without Fire At Will: only the arcs
+    // with the dual beam bank differ, and elsewhere Omega's line runs dotted
+    // over Alpha's.
+    Pick(m.ShipClass[2], "Escort");
+    const char* const forward[4] = {"Dual Heavy Cannons", "Dual Beam Bank", "Cannon", "Torpedo"};
+    const char* const rear[4] = {"Turret", "Turret", "Mine", "Empty"};
+    for (int i = 1; i <= 4; ++i) {
+        Pick(m.Forward[i], forward[i - 1]);
+        Pick(m.CForward[i], forward[i - 1]);
+        Pick(m.Rear[i], rear[i - 1]);
+        Pick(m.CRear[i], rear[i - 1]);
+    }
+    vantorel::VesselSkills& skills = c.skills[2];
+    skills.SameAsAlpha.setValue(0);
+    skills.BeamSkillActivated.setValue(1);
+    skills.BeamSkillLevel.setIndex(2);
+    ok = shot("graph-skill-compared", 0) && ok;
+    return ok;
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -145,5 +215,6 @@ int main(int argc, char* argv[]) {
     ok = shoot("shuttle") && ok;
 
     ok = ShootSkills(folder) && ok;
+    ok = ShootGraphs(folder) && ok;
     return ok ? EXIT_SUCCESS : EXIT_FAILURE;
 }

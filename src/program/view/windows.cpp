@@ -1,5 +1,6 @@
 #include "program/view/windows.h"
 
+#include "graph/view/graphwindow.h"
 #include "mainwindow/view/mainwindow.h"
 #include "skills/view/skillswindow.h"
 
@@ -8,6 +9,7 @@ namespace vantorel {
 ProgramWindows::ProgramWindows(Calculator& c) : m_c(c), m_main(std::make_unique<MainWindow>(c)) {
     for (Vessel v = 1; v <= 2; ++v)
         makeOnFirstShow(c.skills[v].Form, [&c, v] { return std::make_unique<SkillsWindow>(c, v); });
+    makeOnFirstShow(c.graph.Form, [&c] { return std::make_unique<GraphWindowView>(c); });
 }
 
 // The windows go before the fields' views could reach them.
