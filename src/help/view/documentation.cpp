@@ -25,7 +25,6 @@ DocumentationView::DocumentationView(Calculator& c, QWidget* parent)
     : QWidget(parent), m_c(c), m_twips(gui::Twips::forScreen(QGuiApplication::primaryScreen())) {
     DocumentationWindow& d = c.documentation;
     setObjectName(QStringLiteral("Documentation"));
-    setAttribute(Qt::WA_DeleteOnClose, false);
 
     m_box = new QTextEdit(this);
     m_box->setObjectName(QStringLiteral("Documentation.ReadmeBox"));
