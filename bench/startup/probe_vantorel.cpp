@@ -11,7 +11,7 @@
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     const bool splash = argc > 1 && std::strcmp(argv[1], "--splash") == 0;
-    vantorel::StartedProgram program(splash ? vantorel::Splash::Shown : vantorel::Splash::None);
+    vantorel::StartedProgram program(splash ? vantorel::Splash::Shown : vantorel::Splash::Skipped);
     FirstPaint painted(program.windows().mainWindow());
     program.showMainWindow();
     return app.exec();

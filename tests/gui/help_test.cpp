@@ -109,7 +109,7 @@ class HelpTest final : public QObject {
 
   private Q_SLOTS:
     void init() {
-        m_program = std::make_unique<StartedProgram>(Splash::None);
+        m_program = std::make_unique<StartedProgram>(Splash::Skipped);
         m_program->showMainWindow();
         QVERIFY(QTest::qWaitForWindowExposed(&m_program->windows().mainWindow()));
     }
@@ -353,7 +353,7 @@ class SplashTest final : public QObject {
 
     // Each picture draws something of its own over the starfield.
     void eachPictureIsItsOwn() {
-        StartedProgram program(Splash::None);
+        StartedProgram program(Splash::Skipped);
         SplashWindow& s = program.calculator().splash;
         SplashView view(s);
         s.Form.setVisible(true);

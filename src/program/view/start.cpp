@@ -27,7 +27,7 @@ WorkArea ScreenInTwips() {
 
 StartedProgram::StartedProgram(Splash splash)
     : m_calculator([this, splash](Calculator& c) {
-          if (splash == Splash::None) return;
+          if (splash == Splash::Skipped) return;
           m_splash = std::make_unique<SplashView>(c.splash);
           ShowSplash(c.splash, QTime::currentTime().msecsSinceStartOfDay(), ScreenInTwips());
           // Painted once before the long work starts.

@@ -14,7 +14,8 @@ namespace vantorel {
 
 class SplashView;
 
-enum class Splash { Shown, None };
+// Whether the start shows the splash screen; tools and tests may skip it.
+enum class Splash { Shown, Skipped };
 
 class StartedProgram final {
   public:
