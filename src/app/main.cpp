@@ -1,13 +1,10 @@
-#include "mainwindow/layout.h"
-#include "program/program.h"
-#include "program/view/windows.h"
+#include "program/view/start.h"
 
 #include <QApplication>
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
-    vantorel::Program calculator;
-    vantorel::ProgramWindows windows(calculator);
-    vantorel::ShowMainWindowAtStart(calculator);
+    vantorel::StartedProgram program(vantorel::Splash::Shown);
+    program.showMainWindow();
     return app.exec();
 }

@@ -8,6 +8,9 @@
 
 #include "engine/fields.h"
 
+#include <functional>
+#include <string_view>
+
 namespace vantorel {
 
 // Window `Graph`: the DPS of the builds as lines over the arcs. The plot is
@@ -40,14 +43,30 @@ struct GraphWindow {
     bool KeyShown = true;
 };
 
-// Window `Documentation`: the manual.
+// Window `Documentation`: the manual. The box shows the manual's own text
+// (help/manual.h), so the field holds only its place and its caret.
 struct DocumentationWindow {
     Window Form;
+    Control ReadmeBox; // a rich text box
+    Button OK;
+    // The caret of `ReadmeBox`: a character position in the manual. The box
+    // opens with the caret there and the text scrolled to bring it into view.
+    int ReadmeCaret = 0;
 };
 
-// Window `About`: the program's name, licence and links.
+// Window `About`: the program's name, licence and links. The licence text
+// is the program's own (help/manual.h); `License` holds the box's place.
 struct AboutWindow {
     Window Form;
+    Label Aboutlabel2; // `Aboutlabel[2]`: the program's name
+    Label Aboutlabel0; // `Aboutlabel[0]`: the author line
+    Control License;   // a rich text box
+    Button Readme;
+    Button Online;
+    Button OK;
+    // Opens a page in the system's web browser. The front end that can open
+    // one sets it; without it `Online` does nothing, as when no browser starts.
+    std::function<void(std::string_view address)> openPage;
 };
 
 // Window `Note`: a warning that holds the other windows until it is closed.
@@ -55,9 +74,11 @@ struct NoteWindow {
     Window Form;
 };
 
-// Window `SplashScreen`: a picture while the program starts.
+// Window `SplashScreen`: a picture while the program starts. Each picture
+// names the scene that its view draws.
 struct SplashWindow {
     Window Form;
+    Indexed<Picture, 0, 2> Splash;
 };
 
 } // namespace vantorel

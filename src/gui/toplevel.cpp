@@ -4,6 +4,7 @@
 
 #include <QCloseEvent>
 #include <QEvent>
+#include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QWidget>
 
@@ -18,16 +19,26 @@ constexpr int kDesignFrameHeight = 405;
 
 } // namespace
 
-TopLevel::TopLevel(QWidget* window, Window& field, const Twips& twips)
-    : QObject(window), m_window(window), m_field(field), m_twips(twips), m_frontRequests(field.frontRequests()) {
+TopLevel::TopLevel(QWidget* window, Window& field, const Twips& twips, Following following)
+    : QObject(window), m_window(window), m_field(field), m_twips(twips), m_followingBy(following),
+      m_frontRequests(field.frontRequests()) {
     // Only the main window's closing ends the program.
     window->setAttribute(Qt::WA_QuitOnClose, false);
     window->installEventFilter(this);
-    field.setView([this] { show(); });
+    if (following == Following::OwnHook) field.setView([this] { show(); });
     show();
 }
 
-TopLevel::~TopLevel() { m_field.setView(nullptr); }
+TopLevel::~TopLevel() {
+    if (m_followingBy == Following::OwnHook) m_field.setView(nullptr);
+}
+
+void TopLevel::followUserSize(std::function<void()> resized) { m_resized = std::move(resized); }
+
+void TopLevel::detach() {
+    m_detached = true;
+    m_resized = nullptr;
+}
 
 QSize TopLevel::innerPixels() const {
     const int width = m_field.innerWidth() > 0 ? m_field.innerWidth() : m_field.width() - kDesignFrameWidth;
@@ -36,7 +47,7 @@ QSize TopLevel::innerPixels() const {
 }
 
 void TopLevel::show() {
-    if (m_following) return;
+    if (m_following || m_detached) return;
     const QScopedValueRollback following(m_following, true);
     const Window& f = m_field;
 
@@ -73,7 +84,7 @@ void TopLevel::show() {
 }
 
 bool TopLevel::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != m_window || m_following) return QObject::eventFilter(watched, event);
+    if (watched != m_window || m_following || m_detached) return QObject::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::Close: {
         // The frame's close button: the field decides; the widget itself
@@ -87,6 +98,21 @@ bool TopLevel::eventFilter(QObject* watched, QEvent* event) {
         const QScopedValueRollback following(m_following, true);
         m_field.setLeft(m_twips.fromPixelsX(m_window->x()));
         m_field.setTop(m_twips.fromPixelsY(m_window->y()));
+        break;
+    }
+    case QEvent::Resize: {
+        if (!m_resized || m_window->isMinimized()) break;
+        const QSize size = static_cast<QResizeEvent*>(event)->size();
+        if (size == innerPixels()) break;
+        {
+            const QScopedValueRollback following(m_following, true);
+            m_field.setWidth(m_twips.fromPixelsX(size.width()) + kDesignFrameWidth);
+            m_field.setHeight(m_twips.fromPixelsY(size.height()) + kDesignFrameHeight);
+        }
+        // The rule may give the window another size, which it then takes.
+        const std::function<void()> resized = m_resized;
+        resized();
+        show();
         break;
     }
     case QEvent::WindowStateChange: {

@@ -609,6 +609,28 @@ constexpr std::string_view kForumAddress = "https://vantorel.example.org/forum/v
 
 std::span<const ManualParagraph> ManualParagraphs() { return kManual; }
 
+ManualFormat FormatOf(ManualStyle style) {
+    switch (style) {
+    case Title:
+        return {.points = 24.0, .bold = true, .centred = true, .spaceAfter = 60};
+    case Author:
+        return {.points = 12.0, .italic = true, .centred = true, .spaceAfter = 240};
+    case Heading:
+        return {.points = 14.0, .bold = true, .spaceBefore = 240, .spaceAfter = 80};
+    case WindowHeading:
+        return {.points = 14.0, .bold = true, .underline = true, .spaceBefore = 240, .spaceAfter = 80};
+    case Subheading:
+        return {.points = 12.0, .bold = true, .spaceBefore = 120, .spaceAfter = 40};
+    case Body:
+        return {.points = 12.0, .spaceAfter = 100};
+    case Bullet:
+        return {.points = 12.0, .spaceAfter = 40};
+    }
+    return {};
+}
+
+bool StartsSection(ManualStyle style) { return style == Title || style == Heading || style == WindowHeading; }
+
 const std::string& ManualText() {
     static const std::string text = [] {
         std::string joined;
@@ -624,6 +646,27 @@ const std::string& ManualText() {
 int SectionStart(ManualSection section) {
     const auto index = static_cast<std::size_t>(section);
     return index < kSectionStarts.size() ? kSectionStarts[index] : 0;
+}
+
+int SectionHeadingAt(int position) {
+    int heading = 0;
+    int at = 0;
+    for (const ManualParagraph& paragraph : kManual) {
+        if (at > position) break;
+        if (StartsSection(paragraph.style)) heading = at;
+        at += static_cast<int>(paragraph.text.size()) + 1;
+    }
+    return heading;
+}
+
+int SectionEndAt(int position) {
+    const int heading = SectionHeadingAt(position);
+    int at = 0;
+    for (const ManualParagraph& paragraph : kManual) {
+        if (at > heading && StartsSection(paragraph.style)) return at - 1;
+        at += static_cast<int>(paragraph.text.size()) + 1;
+    }
+    return static_cast<int>(ManualText().size());
 }
 
 std::string_view AboutAuthorLine() { return kAuthorLine; }

@@ -24,6 +24,23 @@ struct ManualParagraph {
     std::string_view text; // never empty, no line break
 };
 
+// How a style is set, in the manual's one serif face: size, weight, line,
+// and the space around the paragraph in twips. Bullet items are indented
+// by the list they form.
+struct ManualFormat {
+    double points = 12.0;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    bool centred = false;
+    int spaceBefore = 0;
+    int spaceAfter = 0;
+};
+ManualFormat FormatOf(ManualStyle style);
+// Whether paragraphs of the style begin a section: the title and the
+// headings, not the sub-headings.
+bool StartsSection(ManualStyle style);
+
 // The whole manual in reading order.
 std::span<const ManualParagraph> ManualParagraphs();
 
@@ -47,6 +64,14 @@ enum class ManualSection {
 // Character position in ManualText() where the section's heading begins
 // (0 for Start, and for a value outside the enumeration).
 int SectionStart(ManualSection section);
+// Where the heading of the section that holds `position` begins: the last
+// title or heading at or before it (positions outside the text are taken to
+// its nearer end).
+int SectionHeadingAt(int position);
+// Where the section that holds `position` ends: the end of its last
+// paragraph, just before the line break of the next heading, or the end of
+// the text.
+int SectionEndAt(int position);
 
 // The author line of the About window, the same as the manual's.
 std::string_view AboutAuthorLine();

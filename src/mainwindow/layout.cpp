@@ -1,5 +1,7 @@
 #include "mainwindow/layout.h"
 
+#include "help/splash.h"
+
 #include <cmath>
 #include <cstdlib>
 
@@ -216,6 +218,7 @@ void ShowMainWindowAtStart(Calculator& c) {
     form.setTop(p.top);
     form.setWidth(kSingleWidth);
     FitWindow(c);
+    CloseSplash(c);
     form.setVisible(true);
 }
 

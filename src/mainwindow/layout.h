@@ -96,7 +96,8 @@ void VScroll1Changed(Calculator& c);
 // The fit of the main window to the work area, run on every resize.
 void FitWindow(Calculator& c);
 // The end of the start: the width of `Alpha`, the place and width of the main
-// window (which runs the fit), then the main window is shown.
+// window (which runs the fit), then the splash screen closes and the main
+// window is shown.
 void ShowMainWindowAtStart(Calculator& c);
 
 } // namespace vantorel

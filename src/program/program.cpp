@@ -10,7 +10,12 @@
 
 namespace vantorel {
 
-Program::Program() {
+Program::Program() : Program(nullptr) {}
+
+Program::Program(const std::function<void(Calculator&)>& beforeStart) {
+    // The splash screen comes first; the main window is made behind it.
+    SetUpSplashWindow(splash);
+    if (beforeStart) beforeStart(*this);
     SetUpMainWindow(main);
     SetUpSettingsWindow(settings[1], 1);
     SetUpSettingsWindow(settings[2], 2);
@@ -20,7 +25,6 @@ Program::Program() {
     SetUpDocumentationWindow(documentation);
     SetUpAboutWindow(about);
     SetUpNoteWindow(note);
-    SetUpSplashWindow(splash);
     WireHandlers(*this);
     StartUp(*this);
     // The skills windows read the torpedo type that the start has chosen.

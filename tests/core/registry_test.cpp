@@ -74,6 +74,11 @@ TEST(Registry, CoversEveryFieldOfEveryRecord) {
         ExpectCovered(registry, c.skills[v], "skills " + std::to_string(v), At(c.skills[v].vessel) + sizeof(Vessel));
     }
     ExpectCovered(registry, c.graph, "Graph");
+    ExpectCovered(registry, c.documentation, "Documentation");
+    ExpectCovered(registry, c.splash, "SplashScreen");
+    // About's way to a browser is the front end's hook, not a control.
+    const auto about = At(c.about), hook = At(c.about.openPage);
+    ExpectCovered(SpansWithin(registry, about, hook), about, hook, alignof(decltype(c.about.openPage)), "About");
     // Only [1..6][2..8][1..5] of the coefficients have names; the array
     // counts as one.
     const auto begin = At(c.state), end = begin + sizeof c.state;
@@ -118,6 +123,11 @@ TEST(Registry, FindsFieldsByTheProgramsNamesAndIndexBases) {
         {"Graph.AxisLine[1]", At(c.graph.AxisLine[1]), ValueKind::Line},
         {"Graph.KeyIcon[5]", At(c.graph.KeyIcon[5]), ValueKind::Control},
         {"Graph.KeyShown", At(c.graph.KeyShown), ValueKind::Bool},
+        {"Documentation.ReadmeBox", At(c.documentation.ReadmeBox), ValueKind::Control},
+        {"Documentation.ReadmeCaret", At(c.documentation.ReadmeCaret), ValueKind::Int},
+        {"About.Aboutlabel[2]", At(c.about.Aboutlabel2), ValueKind::Label},
+        {"About.Aboutlabel[0]", At(c.about.Aboutlabel0), ValueKind::Label},
+        {"SplashScreen.Splash[2]", At(c.splash.Splash[2]), ValueKind::Picture},
     };
     // clang-format on
     for (const Case& k : cases) {
@@ -127,7 +137,7 @@ TEST(Registry, FindsFieldsByTheProgramsNamesAndIndexBases) {
     }
     // Outside the bases, or a name that differs: nothing.
     for (const char* name : {"Form1.Forward[0]", "State.ArcDPS[0,3]", "State.DPWCoefficient[1,1,1]", "form1.Forward[1]",
-                             "Graph.AxisLine[0]", "Graph.Line1[30]"})
+                             "Graph.AxisLine[0]", "Graph.Line1[30]", "About.Aboutlabel[1]"})
         EXPECT_EQ(registry.find(name), nullptr) << name;
     EXPECT_TRUE(registry.isArray("State.DPWCoefficient"));
     EXPECT_FALSE(registry.isArray("Form1.Simplified"));

@@ -4,6 +4,8 @@
 // fields, as a user's clicks would.
 
 #include "graph/key.h"
+#include "help/help.h"
+#include "help/view/splash.h"
 #include "mainwindow/layout.h"
 #include "mainwindow/view/mainwindow.h"
 #include "program/program.h"
@@ -49,17 +51,18 @@ bool Pick(List& list, const std::string& text) {
 
 class Shooter final {
   public:
-    Shooter(QWidget& window, QString folder) : m_window(window), m_folder(std::move(folder)) {}
-    bool operator()(const char* name) {
+    Shooter(QWidget& window, QString folder) : m_window(&window), m_folder(std::move(folder)) {}
+    bool operator()(const char* name) { return shoot(m_window, name); }
+    bool shoot(QWidget* window, const char* name) {
         QApplication::processEvents();
         const QString file = QDir(m_folder).filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
-        const bool saved = m_window.grab().save(file);
+        const bool saved = window && window->grab().save(file);
         std::printf("%s %s\n", saved ? "wrote" : "FAILED", qPrintable(file));
         return saved;
     }
 
   private:
-    QWidget& m_window;
+    QWidget* m_window;
     QString m_folder;
 };
 
@@ -181,10 +184,10 @@ int main(int argc, char* argv[]) {
     QDir().mkpath(folder);
 
     Program c;
-    vantorel::MainWindow window(c);
+    vantorel::ProgramWindows windows(c);
     vantorel::ShowMainWindowAtStart(c);
     vantorel::MainSelection& m = c.main;
-    Shooter shoot(window, folder);
+    Shooter shoot(windows.mainWindow(), folder);
     bool ok = shoot("single");
 
     Pick(m.Forward[1], "Beam Array");
@@ -216,5 +219,25 @@ int main(int argc, char* argv[]) {
 
     ok = ShootSkills(folder) && ok;
     ok = ShootGraphs(folder) && ok;
+    // The manual as the main window's Help opens it, and from its start as
+    // About's button opens it.
+    m.Help.press();
+    ok = shoot.shoot(windows.widgetOf(c.documentation.Form), "manual") && ok;
+    m.ShowAbout.press();
+    ok = shoot.shoot(windows.widgetOf(c.about.Form), "about") && ok;
+    c.about.Readme.press();
+    ok = shoot.shoot(windows.widgetOf(c.documentation.Form), "manual-start") && ok;
+
+    // Each splash picture in turn.
+    vantorel::SplashView splash(c.splash);
+    c.splash.Form.setVisible(true);
+    for (int i = 0; i <= 2; ++i) {
+        for (int k = 0; k <= 2; ++k)
+            c.splash.Splash[k].setVisible(k == i);
+        const std::string name = "splash-" + std::to_string(i + 1);
+        ok = shoot.shoot(&splash, name.c_str()) && ok;
+    }
+    c.splash.Form.setVisible(false);
+
     return ok ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -1,8 +1,12 @@
 #pragma once
 
-#include "art.h"
+// The drawing kit is the program's own (src/gui/art.h), which also draws the
+// splash screen; the drawings here use its names as their own.
+#include "gui/art.h"
 
 #include <vector>
+
+using namespace vantorel::gui;
 
 struct ShipDrawing {
     const char* name;

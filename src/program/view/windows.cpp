@@ -1,20 +1,47 @@
 #include "program/view/windows.h"
 
 #include "graph/view/graphwindow.h"
+#include "gui/toplevel.h"
+#include "help/view/about.h"
+#include "help/view/documentation.h"
 #include "mainwindow/view/mainwindow.h"
 #include "skills/view/skillswindow.h"
 
+#include <QDesktopServices>
+#include <QPointer>
+#include <QString>
+#include <QUrl>
+
+#include <string_view>
+
 namespace vantorel {
+
+namespace {
+
+void OpenInBrowser(std::string_view address) {
+    QDesktopServices::openUrl(QUrl(QString::fromUtf8(address.data(), static_cast<qsizetype>(address.size()))));
+}
+
+} // namespace
 
 ProgramWindows::ProgramWindows(Calculator& c) : m_c(c), m_main(std::make_unique<MainWindow>(c)) {
     for (Vessel v = 1; v <= 2; ++v)
         makeOnFirstShow(c.skills[v].Form, [&c, v] { return std::make_unique<SkillsWindow>(c, v); });
     makeOnFirstShow(c.graph.Form, [&c] { return std::make_unique<GraphWindowView>(c); });
+    makeAnewOnEachShow(c.documentation.Form, [&c] { return std::make_unique<DocumentationView>(c); });
+    makeAnewOnEachShow(c.about.Form, [&c] { return std::make_unique<AboutView>(c); });
+    c.about.openPage = OpenInBrowser;
 }
 
 // The windows go before the fields' views could reach them.
 ProgramWindows::~ProgramWindows() {
+    m_c.about.openPage = nullptr;
+    for (Window* anew : {&m_c.documentation.Form, &m_c.about.Form})
+        anew->setView(nullptr);
     m_made.clear();
+    // Windows closed for good whose deletion the event loop did not reach.
+    for (const QPointer<QWidget>& closing : m_closing)
+        delete closing.data();
     m_main.reset();
 }
 
@@ -36,6 +63,39 @@ void ProgramWindows::makeOnFirstShow(Window& field, Factory make) {
         std::unique_ptr<QWidget> widget = factory();
         self->m_made.push_back({shown, std::move(widget)});
     });
+}
+
+} // namespace vantorel
+
+namespace vantorel {
+
+void ProgramWindows::makeAnewOnEachShow(Window& field, Factory make) {
+    field.setView([this, &field, make = std::move(make)] {
+        QWidget* widget = widgetOf(field);
+        if (!widget) {
+            if (field.visible()) m_made.push_back({&field, make()});
+            return;
+        }
+        if (!field.visible()) {
+            closeForGood(field);
+            return;
+        }
+        if (auto* frame = widget->findChild<gui::TopLevel*>(QString(), Qt::FindDirectChildrenOnly)) frame->show();
+    });
+}
+
+void ProgramWindows::closeForGood(const Window& field) {
+    for (auto it = m_made.begin(); it != m_made.end(); ++it) {
+        if (it->field != &field) continue;
+        QWidget* widget = it->widget.release();
+        m_made.erase(it);
+        if (auto* frame = widget->findChild<gui::TopLevel*>(QString(), Qt::FindDirectChildrenOnly)) frame->detach();
+        widget->hide();
+        widget->deleteLater();
+        std::erase_if(m_closing, [](const QPointer<QWidget>& w) { return w.isNull(); });
+        m_closing.emplace_back(widget);
+        return;
+    }
 }
 
 } // namespace vantorel

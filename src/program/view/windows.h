@@ -1,12 +1,15 @@
 #pragma once
 
 // Every window of the program on the screen. The main window exists from the
-// start. Each other window is made the first time its field shows and from
-// then on follows its field; a window that the program closes is only
-// hidden here, since what closing resets is the fields' business.
+// start. The settings, skills and graph windows are made the first time their
+// fields show and from then on follow their fields; one that the program
+// closes is only hidden here, since what closing resets is the fields'
+// business. The manual and About are really closed: each opening makes the
+// window anew, so that nothing of the last one (scroll position, size) stays.
 
 #include "engine/records.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <functional>
@@ -32,6 +35,13 @@ class ProgramWindows final {
     using Factory = std::function<std::unique_ptr<QWidget>()>;
     // Makes the window with `make` when `field` first shows.
     void makeOnFirstShow(Window& field, Factory make);
+    // Makes the window with `make` each time `field` shows, and destroys it
+    // each time the field hides. The window's gui::TopLevel follows its field
+    // through this owner (gui::Following::Owner).
+    void makeAnewOnEachShow(Window& field, Factory make);
+    // The window of `field` goes: hidden at once, destroyed once the event
+    // that closed it is over (it may be that window's own button).
+    void closeForGood(const Window& field);
 
     struct Made {
         const Window* field;
@@ -41,6 +51,7 @@ class ProgramWindows final {
     Calculator& m_c;
     std::unique_ptr<MainWindow> m_main;
     std::vector<Made> m_made;
+    std::vector<QPointer<QWidget>> m_closing;
 };
 
 } // namespace vantorel

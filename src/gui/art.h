@@ -10,8 +10,12 @@
 #include <QPainterPath>
 #include <QPointF>
 
+#include <QSizeF>
+
 #include <initializer_list>
 #include <vector>
+
+namespace vantorel::gui {
 
 inline constexpr double Axis = 180.0;
 inline constexpr double Pivot = 194.0;
@@ -94,4 +98,8 @@ class Artist {
     QPainter& m_p;
 };
 
-void SpaceBackground(QPainter& p);
+// Deep space with faint gas clouds and stars from a fixed sequence, over a
+// picture of `size`; the ship pictures are 360 by 360.
+void SpaceBackground(QPainter& p, const QSizeF& size = QSizeF(360, 360));
+
+} // namespace vantorel::gui

@@ -1,4 +1,4 @@
-#include "art.h"
+#include "gui/art.h"
 
 #include <QLinearGradient>
 #include <QRadialGradient>
@@ -8,6 +8,8 @@
 #include <cmath>
 #include <cstdint>
 #include <numbers>
+
+namespace vantorel::gui {
 
 QPainterPath Smooth(const std::vector<QPointF>& pts) {
     QPainterPath path;
@@ -292,41 +294,48 @@ void Artist::disruptor(QPointF port) {
     }
 }
 
-void SpaceBackground(QPainter& p) {
-    QRadialGradient deep(QPointF(180, 194), 300);
+void SpaceBackground(QPainter& p, const QSizeF& size) {
+    // Every measure is laid out on 360 by 360 and stretched to the size.
+    const double sx = size.width() / 360.0;
+    const double sy = size.height() / 360.0;
+    const double scale = std::max(sx, sy);
+    const QRectF all(0, 0, size.width(), size.height());
+    QRadialGradient deep(QPointF(180 * sx, 194 * sy), 300 * scale);
     deep.setColorAt(0.0, QColor(16, 20, 36));
     deep.setColorAt(1.0, QColor(3, 4, 10));
-    p.fillRect(QRectF(0, 0, 360, 360), deep);
+    p.fillRect(all, deep);
 
     // Two faint clouds of gas.
-    QRadialGradient violet(QPointF(70, 300), 150);
+    QRadialGradient violet(QPointF(70 * sx, 300 * sy), 150 * scale);
     violet.setColorAt(0.0, QColor(70, 30, 90, 70));
     violet.setColorAt(1.0, QColor(70, 30, 90, 0));
-    p.fillRect(QRectF(0, 0, 360, 360), violet);
-    QRadialGradient teal(QPointF(310, 60), 130);
+    p.fillRect(all, violet);
+    QRadialGradient teal(QPointF(310 * sx, 60 * sy), 130 * scale);
     teal.setColorAt(0.0, QColor(20, 70, 90, 60));
     teal.setColorAt(1.0, QColor(20, 70, 90, 0));
-    p.fillRect(QRectF(0, 0, 360, 360), teal);
+    p.fillRect(all, teal);
 
-    // Stars from a fixed sequence, so that every picture has the same sky.
+    // Stars from a fixed sequence, so that every picture has the same sky;
+    // a larger picture has as many more as it has room for.
     std::uint32_t seed = 7919;
     const auto next = [&seed] {
         seed = seed * 1664525u + 1013904223u;
         return (seed >> 8) / double(1u << 24);
     };
+    const int stars = static_cast<int>(190 * sx * sy + 0.5);
     p.save();
     p.setPen(Qt::NoPen);
-    for (int i = 0; i < 190; ++i) {
-        const QPointF at(next() * 360.0, next() * 360.0);
+    for (int i = 0; i < stars; ++i) {
+        const QPointF at(next() * size.width(), next() * size.height());
         const double b = next();
-        const double size = b > 0.96 ? 1.3 : b > 0.8 ? 0.9 : 0.6;
+        const double radius = b > 0.96 ? 1.3 : b > 0.8 ? 0.9 : 0.6;
         const int level = static_cast<int>(110 + 145 * b);
         const double tint = next();
         QColor c(level, level, level);
         if (tint < 0.2) c = QColor(level, level - 20, std::max(0, level - 60));
         if (tint > 0.85) c = QColor(std::max(0, level - 50), level - 20, level);
         p.setBrush(c);
-        p.drawEllipse(at, size, size);
+        p.drawEllipse(at, radius, radius);
         if (b > 0.97) {
             p.setPen(QPen(QColor(c.red(), c.green(), c.blue(), 90), 0.6));
             p.drawLine(at - QPointF(4, 0), at + QPointF(4, 0));
@@ -360,3 +369,5 @@ void Artist::klingonEngines(double y, double half) {
     glow(QPointF(Axis - half * 0.5, y), half * 0.9, palette::KlingonGlow, 0.6);
     glow(QPointF(Axis + half * 0.5, y), half * 0.9, palette::KlingonGlow, 0.6);
 }
+
+} // namespace vantorel::gui
