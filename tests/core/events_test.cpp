@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <tuple>
 
 namespace vantorel {
@@ -369,12 +370,17 @@ TEST(Comparison, OmegaFollowsAlphaOnItsSameAsRows) {
 
 using testing::RowOf;
 
-// Extrapolation on, with the whole bonus given as equipment.
-void Extrapolate(Calculator& c, Vessel v, const char* equipment) {
+// Extrapolation on, with the given power skills and none other: opening
+// the section fills the boxes, which are emptied first.
+void ExtrapolateWith(Calculator& c, Vessel v, const std::array<const char*, 5>& skills) {
     c.settings[v].ExtrapolatePower.setValue(1);
-    c.settings[v].PowerSkill[5].setText(equipment);
+    for (int i = 1; i <= 5; ++i)
+        c.settings[v].PowerSkill[i].setText(skills[static_cast<std::size_t>(i - 1)]);
     CalculatePower(c, v, Rebuild::Always);
 }
+
+// Extrapolation on, with the whole bonus given as equipment.
+void Extrapolate(Calculator& c, Vessel v, const char* equipment) { ExtrapolateWith(c, v, {"", "", "", "", equipment}); }
 
 TEST(PowerModel, TestedLevelsWithoutExtrapolation) {
     Program c;
@@ -432,8 +438,7 @@ TEST(PowerModel, ShipBonusByClassAndTier) {
         for (int i = 0; i < tiers.count(); ++i)
             if (tiers.row(i).rfind(k.tier, 0) == 0) c.main.ShipTier[1].click(i);
         if (k.subclass > 0) c.main.ShipSubclass[1].click(k.subclass);
-        c.Alpha().ExtrapolatePower.setValue(1);
-        CalculatePower(c, 1, Rebuild::Always);
+        Extrapolate(c, 1, "");
         EXPECT_EQ(c.state.ShipPowerBonus[1], k.bonus) << k.shipClass << ", " << k.tier << ", " << k.subclass;
         if (std::string(k.shipClass) == "Bird of Prey") {
             EXPECT_EQ(c.main.PowerLevel[1].text(), "100 (115) est.");
@@ -453,6 +458,9 @@ TEST(PowerModel, OmegaSnapsToATestedLevel) {
     for (const auto& k : cases) {
         Program c;
         CompareClicked(c);
+        // A mirrored Omega would extrapolate with Alpha; a free one keeps the
+        // tested levels.
+        c.Omega().SameAsAlpha.setValue(0);
         Extrapolate(c, 1, "0");
         const int row = RowOf(c.main.PowerLevel[1], k.alphaRow);
         ASSERT_GE(row, 0) << k.alphaRow;
@@ -474,6 +482,7 @@ TEST(PowerModel, BonusDisplay) {
     // clang-format on
     for (const auto& k : cases) {
         Program c;
+        testing::PlainSettings(c);
         VesselSettings& a = c.Alpha();
         c.main.PowerLevel[1].click(k.setting);
         for (int i = 1; i <= 5; ++i)
@@ -490,8 +499,7 @@ TEST(PowerModel, BonusDisplay) {
     {
         Program w;
         VesselSettings& a = w.Alpha();
-        a.ExtrapolatePower.setValue(1);
-        a.PowerSkill[1].setText("7");
+        ExtrapolateWith(w, 1, {"7", "", "", "", ""});
         List& power = w.main.PowerLevel[1];
         for (int row = 0; row < power.count(); ++row)
             if (power.row(row).rfind("60", 0) == 0) power.click(row);
@@ -502,9 +510,7 @@ TEST(PowerModel, BonusDisplay) {
     }
     // The low-setting skills act only below 75: (52 / 300 + 18 / 200) x 40.
     Program c;
-    c.Alpha().ExtrapolatePower.setValue(1);
-    c.Alpha().PowerSkill[1].setText("9");
-    c.Alpha().PowerSkill[2].setText("9");
+    ExtrapolateWith(c, 1, {"9", "9", "", "", ""});
     c.state.ShipPowerBonus[1] = 0;
     EXPECT_EQ(PowerBonusAt(c, 1, 75) + PowerBonusAt(c, 1, 100), 0.0f);
     EXPECT_FLOAT_EQ(PowerBonusAt(c, 1, 35), static_cast<float>((52.0 / 300 + 18.0 / 200) * 40));
