@@ -56,9 +56,11 @@ void FollowWeapons(Calculator& c) {
     o.WeaponType[1].setEnabled(false);
     for (int i = 1; i <= 7; ++i)
         Paint(o.CalculatedWeaponDPS[i], o.CalculatedWeaponDPSLabel[i], false);
+    // Closed before the copy arrives: an "N/A" that Alpha's rank wrote is
+    // kept as it is, where an open box would clear it as no number.
     for (int i = 1; i <= 8; ++i) {
-        o.WeaponSkill[i].setText(a.WeaponSkill[i].text());
         o.WeaponSkill[i].setEnabled(false);
+        o.WeaponSkill[i].setText(a.WeaponSkill[i].text());
         Paint(o.WeaponSkill[i], false);
         if (i != 4 && i != 8) PaintLabel(o.WeaponSkillLabel[i], false);
     }
