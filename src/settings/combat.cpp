@@ -39,6 +39,13 @@ void OpenSkill(Text& box, Label& label) {
     Paint(box, label, true);
 }
 
+// The prompt of the equipment list is what the list shows while nothing is
+// selected: a mirrored Omega shows the same.
+void SetItemHint(Calculator& c, Vessel v, const char* hint) {
+    c.settings[v].CriticalItem.setHint(hint);
+    if (v == 1 && OmegaMirrorsAlpha(c)) c.Omega().CriticalItem.setHint(hint);
+}
+
 // Skill boxes 2 and 3 and the equipment list by rank. A mirrored Omega only
 // closes: what opens there arrives as Alpha's copy.
 void LimitByRank(Calculator& c, Vessel v, int r) {
@@ -54,7 +61,7 @@ void LimitByRank(Calculator& c, Vessel v, int r) {
         s.CriticalItem.setEnabled(false);
         Paint(s.CriticalItem, false);
         s.CriticalItem.setIndex(-1);
-        s.CriticalItem.setHint(kNoItemHint);
+        SetItemHint(c, v, kNoItemHint);
     } else if (!keepOpen) {
         // The hint it had stays until a row is picked.
         s.CriticalItem.setEnabled(true);
@@ -93,7 +100,8 @@ void OpenSection(Calculator& c, Vessel v, int r) {
     PaintOutputs(s, true);
 }
 
-void CloseSection(VesselSettings& s) {
+void CloseSection(Calculator& c, Vessel v) {
+    VesselSettings& s = c.settings[v];
     for (int i = 1; i <= 3; ++i) {
         s.CriticalSkill[i].setEnabled(false);
         s.CriticalSkill[i].setText("");
@@ -104,7 +112,7 @@ void CloseSection(VesselSettings& s) {
     PaintOutputs(s, false);
     s.CriticalItem.setEnabled(false);
     s.CriticalItem.setIndex(-1);
-    s.CriticalItem.setHint(kItemHint);
+    SetItemHint(c, v, kItemHint);
     Paint(s.CriticalItem, false);
 }
 
@@ -125,7 +133,7 @@ void CriticalSettingsChanged(Calculator& c, Vessel v) {
     if (s.CriticalSettings.value() == 0)
         OpenSection(c, v, GetRank(c, v));
     else
-        CloseSection(s);
+        CloseSection(c, v);
 
     ModifiedCritical(c, v);
     if (v == 1) ModifiedResistance(c, 1);
