@@ -95,6 +95,38 @@ void ShowList(QComboBox* w, const List& f, const Twips& twips) {
         // user's own typing keeps its cursor.
         if (moved && !w->lineEdit()->hasFocus()) w->lineEdit()->setCursorPosition(0);
     }
+    // A list without typing shows its prompt while nothing is selected, in
+    // the list's own text colour: it reads as the list's caption.
+    const QString hint = ToQString(f.hint());
+    if (w->placeholderText() != hint) w->setPlaceholderText(hint);
+    SetToolTip(w, f.tooltip());
+    SetPalette(w, QPalette::Base, QPalette::Text, f);
+    // A list without typing is drawn as a button: its face takes the list's
+    // background, and the row, or the prompt, its text colour also while the
+    // list is closed, so a grey list keeps dark, readable text.
+    const QColor back = ToQColor(f.back());
+    const QColor text = ToQColor(f.fore());
+    const QPalette& now = w->palette();
+    if (now.color(QPalette::Disabled, QPalette::Button) != back ||
+        now.color(QPalette::Disabled, QPalette::ButtonText) != text || now.color(QPalette::PlaceholderText) != text) {
+        QPalette p = now;
+        p.setColor(QPalette::Button, back);
+        p.setColor(QPalette::ButtonText, text);
+        p.setColor(QPalette::PlaceholderText, text);
+        w->setPalette(p);
+    }
+    ShowControl(w, f, twips);
+}
+
+void ShowText(QLineEdit* w, const Text& f, const Twips& twips) {
+    const QString text = ToQString(f.text());
+    if (w->text() != text) {
+        // The user's cursor stays where it was, as far as the new text
+        // reaches; a text the program puts in shows its start.
+        const int cursor = w->cursorPosition();
+        w->setText(text);
+        w->setCursorPosition(w->hasFocus() ? std::min(cursor, static_cast<int>(text.size())) : 0);
+    }
     SetToolTip(w, f.tooltip());
     SetPalette(w, QPalette::Base, QPalette::Text, f);
     ShowControl(w, f, twips);
@@ -181,6 +213,12 @@ void Bind(QPushButton* widget, Button& field, const Twips& twips) {
 void Bind(QScrollBar* widget, ScrollBar& field, const Twips& twips) {
     QObject::connect(widget, &QScrollBar::valueChanged, widget, [&field](int value) { field.setValue(value); });
     Attach(widget, field, twips, ShowScrollBar);
+}
+
+void Bind(QLineEdit* widget, Text& field, const Twips& twips) {
+    QObject::connect(widget, &QLineEdit::textEdited, widget,
+                     [&field](const QString& text) { field.setText(text.toStdString()); });
+    Attach(widget, field, twips, ShowText);
 }
 
 void BindPage(QWidget* widget, Control& field, const Twips& twips) {

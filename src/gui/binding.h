@@ -15,6 +15,7 @@
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class QScrollBar;
 class QWidget;
@@ -35,6 +36,9 @@ void Bind(QComboBox* widget, List& field, const Twips& twips);
 void Bind(QCheckBox* widget, Flag& field, const Twips& twips);
 void Bind(QPushButton* widget, Button& field, const Twips& twips);
 void Bind(QScrollBar* widget, ScrollBar& field, const Twips& twips);
+// A text box: what the user types assigns the field at each keystroke, so a
+// correction by the field's handler shows in the box at once.
+void Bind(QLineEdit* widget, Text& field, const Twips& twips);
 // A page or panel: place, visibility and background.
 void BindPage(QWidget* widget, Control& field, const Twips& twips);
 

@@ -32,14 +32,14 @@ constexpr int kPitch = 360;
 constexpr int kCaptionHeight = 255;
 
 // The first row of a section.
-constexpr int kHeadingWidth = 2760;
+constexpr int kHeadingWidth = 2400;
 constexpr int kHeadingHeight = 375;
-constexpr int kSectionCheckLeft = 3120;
-constexpr int kSectionCheckWidth = 3240;
+constexpr int kSectionCheckLeft = 2520;
 constexpr int kCopyLeft = 6480;
-constexpr int kCopyWidth = 1680;
-constexpr int kHelpLeft = 8280;
-constexpr int kHelpWidth = 1080;
+constexpr int kCopyWidth = 1800;
+constexpr int kHelpLeft = 8400;
+constexpr int kHelpWidth = 960;
+constexpr int kSectionCheckWidth = kCopyLeft - kBoxGap - kSectionCheckLeft;
 constexpr int kButtonHeight = 345;
 
 constexpr int kCharacterTop = 120;
@@ -178,8 +178,10 @@ void LayOut(VesselSettings& s, bool omega) {
         PlaceRow(s.CalculatedWeaponDPSLabel[i], s.CalculatedWeaponDPS[i], 1, top + (i - 6) * kPitch);
 
     // The foot.
-    Place(s.Help[0], kCopyLeft, kFootTop, kCopyWidth, kHeadingHeight);
-    Place(s.Close, kHelpLeft - 240, kFootTop, kHelpWidth + 240, kHeadingHeight);
+    constexpr int kFootButton = 1320;
+    constexpr int kCloseLeft = kRightColumn + kColumnWidth - kFootButton;
+    Place(s.Close, kCloseLeft, kFootTop, kFootButton, kHeadingHeight);
+    Place(s.Help[0], kCloseLeft - kBoxGap - kFootButton, kFootTop, kFootButton, kHeadingHeight);
 }
 
 void Caption(Label& l, std::string caption, bool active = false) {

@@ -1,10 +1,18 @@
 #include "program/view/windows.h"
 
+#include "help/view/notewindow.h"
 #include "mainwindow/view/mainwindow.h"
+#include "settings/view/settingswindow.h"
 
 namespace vantorel {
 
-ProgramWindows::ProgramWindows(Calculator& c) : m_c(c), m_main(std::make_unique<MainWindow>(c)) {}
+ProgramWindows::ProgramWindows(Calculator& c) : m_c(c), m_main(std::make_unique<MainWindow>(c)) {
+    // The settings windows are tall pages of many controls: made the first
+    // time the player opens them, so the start does not wait for them.
+    makeOnFirstShow(c.Alpha().Form, [&c] { return std::make_unique<SettingsWindowView>(c, 1); });
+    makeOnFirstShow(c.Omega().Form, [&c] { return std::make_unique<SettingsWindowView>(c, 2); });
+    makeOnFirstShow(c.note.Form, [&c] { return std::make_unique<NoteWindowView>(c); });
+}
 
 // The windows go before the fields' views could reach them.
 ProgramWindows::~ProgramWindows() {
