@@ -9,6 +9,9 @@
 #include "settings/settings.h"
 #include "settings/weapons.h"
 
+#include <functional>
+#include <utility>
+
 namespace vantorel {
 
 namespace {

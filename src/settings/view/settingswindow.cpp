@@ -79,7 +79,7 @@ SettingsWindowView::SettingsWindowView(Calculator& c, Vessel v, QWidget* parent)
     const char* name = v == 1 ? "Alpha" : "Omega";
     setObjectName(QString::fromLatin1(name));
     build(s, name);
-    m_frame = new gui::TopLevel(this, s.Form, m_twips);
+    new gui::TopLevel(this, s.Form, m_twips);
 }
 
 void SettingsWindowView::build(VesselSettings& s, const char* name) {

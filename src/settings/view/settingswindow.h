@@ -12,10 +12,6 @@
 
 namespace vantorel {
 
-namespace gui {
-class TopLevel;
-}
-
 class SettingsWindowView final : public QWidget {
     Q_OBJECT
 
@@ -27,7 +23,6 @@ class SettingsWindowView final : public QWidget {
     void addSectionLines(VesselSettings& s, QWidget* page);
 
     gui::Twips m_twips;
-    gui::TopLevel* m_frame = nullptr;
 };
 
 } // namespace vantorel
