@@ -79,12 +79,12 @@ void RebuildShipLists(Calculator& c, Vessel v) {
 
 void OpenList(List& list, Label& label) {
     list.setEnabled(true);
-    Paint(list, label, true);
+    Paint(list, label, Shade::Active);
 }
 
 void CloseList(List& list, Label& label) {
     list.setEnabled(false);
-    Paint(list, label, false);
+    Paint(list, label, Shade::Inactive);
     list.setIndex(-1);
 }
 
@@ -132,7 +132,7 @@ void CharacterSettingsChanged(Calculator& c) {
     if (a.CharacterSettings.value() == 0) {
         a.Faction.setEnabled(true);
         a.Rank.setEnabled(true);
-        Paint(a.Faction, a.FactionLabel, true);
+        Paint(a.Faction, a.FactionLabel, Shade::Active);
         // The faction's handler fills the rank list and lands on the top
         // rank, which runs the whole recalculation. A faction row already
         // there (set by a copy while unrestricted) is taken as chosen anew.
@@ -140,7 +140,7 @@ void CharacterSettingsChanged(Calculator& c) {
             FactionChanged(c, 1);
         else
             a.Faction.setIndex(0);
-        Paint(a.Rank, a.RankLabel, true);
+        Paint(a.Rank, a.RankLabel, Shade::Active);
         OpenList(a.Class, a.ClassLabel);
         a.Class.setIndex(0);
         return;

@@ -29,14 +29,14 @@ void PatternUpdates(Calculator& c, Vessel v) {
 
 void CloseSkill(Text& box, Label& label) {
     box.setEnabled(false);
-    Paint(box, label, false);
+    Paint(box, label, Shade::Inactive);
     box.setText("N/A");
 }
 
 void OpenSkill(Text& box, Label& label) {
     if (!IsNumeric(box.text())) box.setText("9");
     box.setEnabled(true);
-    Paint(box, label, true);
+    Paint(box, label, Shade::Active);
 }
 
 // The prompt of the equipment list is what the list shows while nothing is
@@ -59,34 +59,34 @@ void LimitByRank(Calculator& c, Vessel v, int r) {
     }
     if (r < kItemFromRank) {
         s.CriticalItem.setEnabled(false);
-        Paint(s.CriticalItem, false);
+        Paint(s.CriticalItem, Shade::Inactive);
         s.CriticalItem.setIndex(-1);
         SetItemHint(c, v, kNoItemHint);
     } else if (!keepOpen) {
         // The hint it had stays until a row is picked.
         s.CriticalItem.setEnabled(true);
-        Paint(s.CriticalItem, true);
+        Paint(s.CriticalItem, Shade::Active);
     }
 }
 
-void PaintOutputs(VesselSettings& s, bool active) {
-    Paint(s.CritH, s.CritHlabel, active);
-    Paint(s.CritD, s.CritDlabel, active);
-    Paint(s.DamageReduction, s.DamageReductionLabel, active);
-    Paint(s.HitRate, s.HitRateLabel, active);
+void PaintOutputs(VesselSettings& s, Shade shade) {
+    Paint(s.CritH, s.CritHlabel, shade);
+    Paint(s.CritD, s.CritDlabel, shade);
+    Paint(s.DamageReduction, s.DamageReductionLabel, shade);
+    Paint(s.HitRate, s.HitRateLabel, shade);
 }
 
 void OpenTarget(Text& box, Label& label, const char* fallback, bool testText) {
     if (testText && !IsNumeric(box.text())) box.setText(fallback);
     box.setEnabled(true);
-    Paint(box, label, true);
+    Paint(box, label, Shade::Active);
 }
 
 void CloseTarget(Text& box, Label& label, const char* fallback) {
     // Quiet first: the default text then runs no recalculation of its own.
     box.setEnabled(false);
     box.setText(fallback);
-    Paint(box, label, false);
+    Paint(box, label, Shade::Inactive);
 }
 
 void OpenSection(Calculator& c, Vessel v, int r) {
@@ -97,7 +97,7 @@ void OpenSection(Calculator& c, Vessel v, int r) {
     // copies and open as they are.
     OpenTarget(s.TargetResistance, s.TargetResistanceLabel, kDefaultResistance, v == 1);
     OpenTarget(s.TargetDefense, s.TargetDefenseLabel, kDefaultDefense, v == 1);
-    PaintOutputs(s, true);
+    PaintOutputs(s, Shade::Active);
 }
 
 void CloseSection(Calculator& c, Vessel v) {
@@ -105,15 +105,15 @@ void CloseSection(Calculator& c, Vessel v) {
     for (int i = 1; i <= 3; ++i) {
         s.CriticalSkill[i].setEnabled(false);
         s.CriticalSkill[i].setText("");
-        Paint(s.CriticalSkill[i], s.CriticalSkillLabel[i], false);
+        Paint(s.CriticalSkill[i], s.CriticalSkillLabel[i], Shade::Inactive);
     }
     CloseTarget(s.TargetResistance, s.TargetResistanceLabel, kDefaultResistance);
     CloseTarget(s.TargetDefense, s.TargetDefenseLabel, kDefaultDefense);
-    PaintOutputs(s, false);
+    PaintOutputs(s, Shade::Inactive);
     s.CriticalItem.setEnabled(false);
     s.CriticalItem.setIndex(-1);
     SetItemHint(c, v, kItemHint);
-    Paint(s.CriticalItem, false);
+    Paint(s.CriticalItem, Shade::Inactive);
 }
 
 } // namespace

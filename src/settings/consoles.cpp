@@ -31,10 +31,10 @@ int MarkNumber(const List& mark) {
     return mark.index() == 0 ? mark.count() - 1 : mark.index();
 }
 
-void PaintSlot(VesselSettings& s, int i, bool active) {
-    Paint(s.TacticalConsole[i], active);
-    Paint(s.TacticalConsoleMark[i], active);
-    Paint(s.TacticalConsoleRarity[i], active);
+void PaintSlot(VesselSettings& s, int i, Shade shade) {
+    Paint(s.TacticalConsole[i], shade);
+    Paint(s.TacticalConsoleMark[i], shade);
+    Paint(s.TacticalConsoleRarity[i], shade);
 }
 
 // With the limit not matched, every slot is equipped and the player decides.
@@ -43,7 +43,7 @@ void EquipAll(Calculator& c, Vessel v) {
     for (int i = 1; i <= 4; ++i) {
         s.TacticalConsoleEquipped[i].setValue(1);
         s.TacticalConsoleEquipped[i].setEnabled(true);
-        PaintSlot(s, i, true);
+        PaintSlot(s, i, Shade::Active);
     }
     ModifiedDPS(c, v);
 }
@@ -133,9 +133,9 @@ void TacticalConsoleEquippedChanged(Calculator& c, Vessel v, int i) {
     Flag& box = s.TacticalConsoleEquipped[i];
     if (s.MatchConsole.value() == 0) {
         if (box.value() == 0)
-            PaintSlot(s, i, false);
+            PaintSlot(s, i, Shade::Inactive);
         else if (MayOpen(c, v))
-            PaintSlot(s, i, true);
+            PaintSlot(s, i, Shade::Active);
         if (box.enabled()) ModifiedDPS(c, v);
     }
     if (v == 1 && OmegaMirrorsAlpha(c)) {

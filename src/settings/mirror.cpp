@@ -23,13 +23,13 @@ constexpr int kOmegaShift = 1;
 // A control of Omega goes quiet and grey, then takes Alpha's value.
 void Follow(List& omega, const List& alpha, int shift = 0) {
     omega.setEnabled(false);
-    Paint(omega, false);
+    Paint(omega, Shade::Inactive);
     omega.setIndex(alpha.index() + shift);
 }
 void Follow(Text& omega, const Text& alpha) {
     omega.setEnabled(false);
     omega.setText(alpha.text());
-    Paint(omega, false);
+    Paint(omega, Shade::Inactive);
 }
 void Follow(Flag& omega, const Flag& alpha) {
     omega.setEnabled(false);
@@ -40,29 +40,29 @@ void FollowWeapons(Calculator& c) {
     VesselSettings& o = c.Omega();
     const VesselSettings& a = c.Alpha();
     Follow(o.WeaponMark, a.WeaponMark);
-    PaintLabel(o.WeaponMarklabel, false);
-    PaintLabel(o.WeaponModLabel, false);
+    PaintLabel(o.WeaponMarklabel, Shade::Inactive);
+    PaintLabel(o.WeaponModLabel, Shade::Inactive);
     for (int i = 1; i <= 3; ++i)
         Follow(o.WeaponMod[i], a.WeaponMod[i]);
     Follow(o.WeaponAccolade[1], a.WeaponAccolade[1]);
     Follow(o.WeaponAccolade[2], a.WeaponAccolade[2]);
-    PaintLabels({&o.TacticalConsoleLabel, &o.DisplayedDPSLabel[1], &o.DisplayedDPSLabel[2]}, false);
+    PaintLabels({&o.TacticalConsoleLabel, &o.DisplayedDPSLabel[1], &o.DisplayedDPSLabel[2]}, Shade::Inactive);
     Follow(o.MatchConsole, a.MatchConsole);
-    Paint(o.MatchConsoleLimit, false);
-    PaintLabels({&o.SkillLabel[1], &o.SkillLabel[2]}, false);
+    Paint(o.MatchConsoleLimit, Shade::Inactive);
+    PaintLabels({&o.SkillLabel[1], &o.SkillLabel[2]}, Shade::Inactive);
     // The type is copied while the list is still open, then closed.
     o.WeaponType[1].setIndex(a.WeaponType[1].index());
-    Paint(o.WeaponType[1], false);
+    Paint(o.WeaponType[1], Shade::Inactive);
     o.WeaponType[1].setEnabled(false);
     for (int i = 1; i <= 7; ++i)
-        Paint(o.CalculatedWeaponDPS[i], o.CalculatedWeaponDPSLabel[i], false);
+        Paint(o.CalculatedWeaponDPS[i], o.CalculatedWeaponDPSLabel[i], Shade::Inactive);
     // Closed before the copy arrives: an "N/A" that Alpha's rank wrote is
     // kept as it is, where an open box would clear it as no number.
     for (int i = 1; i <= 8; ++i) {
         o.WeaponSkill[i].setEnabled(false);
         o.WeaponSkill[i].setText(a.WeaponSkill[i].text());
-        Paint(o.WeaponSkill[i], false);
-        if (i != 4 && i != 8) PaintLabel(o.WeaponSkillLabel[i], false);
+        Paint(o.WeaponSkill[i], Shade::Inactive);
+        if (i != 4 && i != 8) PaintLabel(o.WeaponSkillLabel[i], Shade::Inactive);
     }
     for (int i = 1; i <= 4; ++i) {
         Follow(o.TacticalConsole[i], a.TacticalConsole[i]);
@@ -76,18 +76,18 @@ void FollowWeapons(Calculator& c) {
 void Mirror(Calculator& c) {
     VesselSettings& o = c.Omega();
     VesselSettings& a = c.Alpha();
-    PaintLabels({&o.CharacterSettingsLabel, &o.WeaponDamageLabel}, false);
+    PaintLabels({&o.CharacterSettingsLabel, &o.WeaponDamageLabel}, Shade::Inactive);
     Follow(o.Faction, a.Faction, kOmegaShift);
-    PaintLabel(o.FactionLabel, false);
+    PaintLabel(o.FactionLabel, Shade::Inactive);
     Follow(o.Rank, a.Rank, kOmegaShift);
-    PaintLabel(o.RankLabel, false);
+    PaintLabel(o.RankLabel, Shade::Inactive);
     o.Class.setEnabled(false);
-    Paint(o.Class, o.ClassLabel, false);
+    Paint(o.Class, o.ClassLabel, Shade::Inactive);
     o.Class.setIndex(-1);
     o.RelativeDPS.setEnabled(false);
     Follow(o.WeaponType[2], a.WeaponType[2]);
     Follow(o.ExtrapolatePower, a.ExtrapolatePower);
-    PaintLabel(o.PowerSettings, false);
+    PaintLabel(o.PowerSettings, Shade::Inactive);
     for (int i = 1; i <= 4; ++i) {
         o.CopySettings[i].setEnabled(false);
         a.CopySettings[i].setEnabled(false);
@@ -98,33 +98,33 @@ void Mirror(Calculator& c) {
 
     for (int i = 1; i <= 5; ++i) {
         Follow(o.PowerSkill[i], a.PowerSkill[i]);
-        PaintLabel(o.PowerSkillLabel[i], false);
+        PaintLabel(o.PowerSkillLabel[i], Shade::Inactive);
     }
     Follow(o.PowerCaptain, a.PowerCaptain);
     o.PowerCaptain.setHint(a.PowerCaptain.hint());
     Follow(o.WarpCore, a.WarpCore);
-    Paint(o.PowerBonus, o.PowerBonusLabel, false);
+    Paint(o.PowerBonus, o.PowerBonusLabel, Shade::Inactive);
     CalculatePower(c, 2, Rebuild::Always);
     if (o.ExtrapolatePower.value() == 0) o.PowerBonus.setCaption("");
 
     Follow(o.CriticalSettings, a.CriticalSettings);
-    PaintLabel(o.CriticalSettingsLabel, false);
+    PaintLabel(o.CriticalSettingsLabel, Shade::Inactive);
     for (int i = 1; i <= 3; ++i) {
         Follow(o.CriticalSkill[i], a.CriticalSkill[i]);
-        PaintLabel(o.CriticalSkillLabel[i], false);
+        PaintLabel(o.CriticalSkillLabel[i], Shade::Inactive);
     }
     Follow(o.CriticalItem, a.CriticalItem);
     o.CriticalItem.setHint(a.CriticalItem.hint());
     Follow(o.DamageResistance, a.DamageResistance);
     Follow(o.TargetResistance, a.TargetResistance);
-    PaintLabel(o.TargetResistanceLabel, false);
+    PaintLabel(o.TargetResistanceLabel, Shade::Inactive);
     Follow(o.Accuracy, a.Accuracy);
     Follow(o.TargetDefense, a.TargetDefense);
-    PaintLabel(o.TargetDefenseLabel, false);
-    Paint(o.CritH, o.CritHlabel, false);
-    Paint(o.CritD, o.CritDlabel, false);
-    Paint(o.DamageReduction, o.DamageReductionLabel, false);
-    Paint(o.HitRate, o.HitRateLabel, false);
+    PaintLabel(o.TargetDefenseLabel, Shade::Inactive);
+    Paint(o.CritH, o.CritHlabel, Shade::Inactive);
+    Paint(o.CritD, o.CritDlabel, Shade::Inactive);
+    Paint(o.DamageReduction, o.DamageReductionLabel, Shade::Inactive);
+    Paint(o.HitRate, o.HitRateLabel, Shade::Inactive);
     ModifiedAccuracy(c, 2);
     ModifiedCritical(c, 2);
     ModifiedResistance(c, 2);
@@ -136,26 +136,26 @@ void Free(Calculator& c) {
     VesselSettings& o = c.Omega();
     VesselSettings& a = c.Alpha();
     FactionUpdate(c);
-    PaintLabels({&o.CharacterSettingsLabel, &o.WeaponDamageLabel}, true);
+    PaintLabels({&o.CharacterSettingsLabel, &o.WeaponDamageLabel}, Shade::Active);
     o.Rank.setIndex(0);
     o.Faction.setEnabled(true);
     o.Rank.setEnabled(true);
-    Paint(o.Faction, o.FactionLabel, true);
+    Paint(o.Faction, o.FactionLabel, Shade::Active);
     o.Faction.setIndex(0);
-    Paint(o.Rank, o.RankLabel, true);
+    Paint(o.Rank, o.RankLabel, Shade::Active);
     o.Class.setEnabled(true);
-    Paint(o.Class, o.ClassLabel, true);
+    Paint(o.Class, o.ClassLabel, Shade::Active);
     o.Class.setIndex(0);
     o.RelativeDPS.setEnabled(true);
     o.WeaponType[2].setEnabled(true);
-    Paint(o.WeaponType[2], true);
+    Paint(o.WeaponType[2], Shade::Active);
     if (o.RelativeDPS.value() == 0) RelativeDPSChanged(c, 2);
     o.ExtrapolatePower.setEnabled(true);
-    PaintLabel(o.PowerSettings, true);
+    PaintLabel(o.PowerSettings, Shade::Active);
     // It keeps the copied numbers, and may raise the power warning.
     if (o.ExtrapolatePower.value() == 1) ExtrapolatePowerChanged(c, 2);
     o.CriticalSettings.setEnabled(true);
-    PaintLabel(o.CriticalSettingsLabel, true);
+    PaintLabel(o.CriticalSettingsLabel, Shade::Active);
     o.DamageResistance.setEnabled(true);
     o.Accuracy.setEnabled(true);
     CriticalSettingsChanged(c, 2);

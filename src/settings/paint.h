@@ -11,20 +11,22 @@
 
 namespace vantorel {
 
-inline Colour StateColour(bool active) { return active ? White : Grey; }
+enum class Shade { Active, Inactive };
+
+inline Colour ColourOf(Shade shade) { return shade == Shade::Active ? White : Grey; }
 
 // A box, list or output box: its background.
-inline void Paint(Control& box, bool active) { box.setBack(StateColour(active)); }
+inline void Paint(Control& box, Shade shade) { box.setBack(ColourOf(shade)); }
 // A caption: its text.
-inline void PaintLabel(Label& label, bool active) { label.setFore(StateColour(active)); }
-inline void PaintLabels(std::initializer_list<Label*> labels, bool active) {
+inline void PaintLabel(Label& label, Shade shade) { label.setFore(ColourOf(shade)); }
+inline void PaintLabels(std::initializer_list<Label*> labels, Shade shade) {
     for (Label* label : labels)
-        PaintLabel(*label, active);
+        PaintLabel(*label, shade);
 }
 // A box and the caption beside it, together.
-inline void Paint(Control& box, Label& label, bool active) {
-    Paint(box, active);
-    PaintLabel(label, active);
+inline void Paint(Control& box, Label& label, Shade shade) {
+    Paint(box, shade);
+    PaintLabel(label, shade);
 }
 
 } // namespace vantorel

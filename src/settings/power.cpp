@@ -36,7 +36,7 @@ constexpr Colour kWarningRed = 0x0000FF;
 
 void CloseBox(Text& box, Label& label) {
     box.setEnabled(false);
-    Paint(box, label, false);
+    Paint(box, label, Shade::Inactive);
     box.setText("N/A");
 }
 
@@ -46,40 +46,40 @@ void OpenSection(Calculator& c, Vessel v) {
     for (int i = 1; i <= 5; ++i) {
         Text& box = s.PowerSkill[i];
         if (r < kPowerBoxes[i].fromRank) {
-            Paint(box, false);
+            Paint(box, Shade::Inactive);
             box.setEnabled(false);
             box.setText("N/A");
-            PaintLabel(s.PowerSkillLabel[i], false);
+            PaintLabel(s.PowerSkillLabel[i], Shade::Inactive);
             continue;
         }
-        Paint(box, s.PowerSkillLabel[i], true);
+        Paint(box, s.PowerSkillLabel[i], Shade::Active);
         // Alpha starts the section afresh; a free Omega keeps the values it
         // holds, such as those copied from Alpha while it followed.
         if (v == 1 || !IsNumeric(box.text())) box.setText(kPowerBoxes[i].opened);
         box.setEnabled(true);
     }
     s.PowerCaptain.setEnabled(true);
-    Paint(s.PowerCaptain, true);
+    Paint(s.PowerCaptain, Shade::Active);
     s.WarpCore.setEnabled(true);
-    Paint(s.PowerBonus, s.PowerBonusLabel, true);
+    Paint(s.PowerBonus, s.PowerBonusLabel, Shade::Active);
 }
 
 void CloseSection(Calculator& c, Vessel v) {
     VesselSettings& s = c.settings[v];
     for (int i = 1; i <= 5; ++i) {
         s.PowerSkill[i].setEnabled(false);
-        Paint(s.PowerSkill[i], s.PowerSkillLabel[i], false);
+        Paint(s.PowerSkill[i], s.PowerSkillLabel[i], Shade::Inactive);
         s.PowerSkill[i].setText("");
     }
     s.PowerCaptain.setEnabled(false);
-    Paint(s.PowerCaptain, false);
+    Paint(s.PowerCaptain, Shade::Inactive);
     s.PowerCaptain.setIndex(-1);
     s.PowerCaptain.setHint(kCaptainHint);
     s.WarpCore.setEnabled(false);
     s.WarpCore.setValue(0);
-    PaintLabel(s.PowerBonusLabel, false);
+    PaintLabel(s.PowerBonusLabel, Shade::Inactive);
     s.PowerBonusLabel.setCaption(kBonusAtStart);
-    Paint(s.PowerBonus, false);
+    Paint(s.PowerBonus, Shade::Inactive);
     s.PowerBonus.setCaption("");
     if (v == 1 && OmegaMirrorsAlpha(c)) c.Omega().PowerBonus.setCaption("");
 }
@@ -95,7 +95,7 @@ void PowerControl(Calculator& c, Vessel v, int r) {
         if (r < kPowerBoxes[i].fromRank) {
             CloseBox(box, s.PowerSkillLabel[i]);
         } else if (!keepOpen) {
-            Paint(box, s.PowerSkillLabel[i], true);
+            Paint(box, s.PowerSkillLabel[i], Shade::Active);
             if (!IsNumeric(box.text())) box.setText(kPowerBoxes[i].opened);
             box.setEnabled(true);
         }

@@ -55,13 +55,13 @@ void RankedSkillBoxes(Calculator& c, Vessel v, int r) {
         s.WeaponSkill[i].setEnabled(false);
     if (r < kRankedSkillsFrom) {
         for (int i : kRankedSkills) {
-            Paint(s.WeaponSkill[i], s.WeaponSkillLabel[i], false);
+            Paint(s.WeaponSkill[i], s.WeaponSkillLabel[i], Shade::Inactive);
             s.WeaponSkill[i].setText("N/A");
         }
         return;
     }
     for (int i : kRankedSkills) {
-        Paint(s.WeaponSkill[i], s.WeaponSkillLabel[i], true);
+        Paint(s.WeaponSkill[i], s.WeaponSkillLabel[i], Shade::Active);
         if (!IsNumeric(s.WeaponSkill[i].text())) s.WeaponSkill[i].setText("7");
     }
     for (int i : kRankedSkills)
@@ -80,24 +80,24 @@ void Customise(Calculator& c, Vessel v) {
     const bool fresh = v == 1;
     const bool mirrored = OmegaMirrorsAlpha(c);
 
-    Paint(s.WeaponMark, true);
+    Paint(s.WeaponMark, Shade::Active);
     if (fresh || s.WeaponMark.index() < 0) s.WeaponMark.setIndex(0);
     PaintLabels({&s.WeaponMarklabel, &s.TacticalConsoleLabel, &s.DisplayedDPSLabel[1], &s.DisplayedDPSLabel[2],
                  &s.WeaponModLabel},
-                true);
+                Shade::Active);
     for (int i = 1; i <= 3; ++i) {
-        Paint(s.WeaponMod[i], true);
+        Paint(s.WeaponMod[i], Shade::Active);
         if (fresh || s.WeaponMod[i].index() == -1) s.WeaponMod[i].setIndex(0);
         s.WeaponMod[i].setEnabled(true);
     }
-    Paint(s.WeaponType[1], true);
-    PaintLabels({&s.SkillLabel[1], &s.SkillLabel[2]}, true);
+    Paint(s.WeaponType[1], Shade::Active);
+    PaintLabels({&s.SkillLabel[1], &s.SkillLabel[2]}, Shade::Active);
     if (fresh || s.WeaponType[1].index() == -1) {
         const bool klingon = fresh ? c.Alpha().Faction.index() == 1 : GetFaction(c, 2) == 2;
         s.WeaponType[1].setIndex(klingon ? 1 : 0);
     }
     for (int i : {1, 5}) {
-        Paint(s.WeaponSkill[i], s.WeaponSkillLabel[i], true);
+        Paint(s.WeaponSkill[i], s.WeaponSkillLabel[i], Shade::Active);
         if (fresh || !IsNumeric(s.WeaponSkill[i].text())) s.WeaponSkill[i].setText("7");
     }
     const int r = GetRank(c, v);
@@ -106,14 +106,14 @@ void Customise(Calculator& c, Vessel v) {
     for (int i = 1; i <= 4; ++i) {
         if (fresh || s.TacticalConsole[i].index() < 0) s.TacticalConsole[i].setIndex(0);
         if (fresh || s.TacticalConsoleEquipped[i].value() == 1) {
-            Paint(s.TacticalConsole[i], true);
-            Paint(s.TacticalConsoleMark[i], true);
-            Paint(s.TacticalConsoleRarity[i], true);
+            Paint(s.TacticalConsole[i], Shade::Active);
+            Paint(s.TacticalConsoleMark[i], Shade::Active);
+            Paint(s.TacticalConsoleRarity[i], Shade::Active);
         }
     }
     for (int i = 1; i <= 7; ++i)
-        Paint(s.CalculatedWeaponDPS[i], s.CalculatedWeaponDPSLabel[i], true);
-    Paint(s.MatchConsoleLimit, true);
+        Paint(s.CalculatedWeaponDPS[i], s.CalculatedWeaponDPSLabel[i], Shade::Active);
+    Paint(s.MatchConsoleLimit, Shade::Active);
     for (Control* ctl : {static_cast<Control*>(&s.WeaponAccolade[1]), static_cast<Control*>(&s.WeaponAccolade[2]),
                          static_cast<Control*>(&s.MatchConsole), static_cast<Control*>(&s.WeaponMark),
                          static_cast<Control*>(&s.WeaponType[1]), static_cast<Control*>(&s.WeaponSkill[1]),
@@ -145,25 +145,25 @@ void BackToRelative(Calculator& c, Vessel v) {
 
     PaintLabels({&s.WeaponModLabel, &s.WeaponMarklabel, &s.TacticalConsoleLabel, &s.DisplayedDPSLabel[1],
                  &s.DisplayedDPSLabel[2]},
-                false);
-    Paint(s.WeaponMark, false);
+                Shade::Inactive);
+    Paint(s.WeaponMark, Shade::Inactive);
     s.WeaponMark.setIndex(-1);
     s.DisplayedDPSLabel[1].setCaption(kDisplayedAtStart);
-    Paint(s.MatchConsoleLimit, false);
+    Paint(s.MatchConsoleLimit, Shade::Inactive);
     s.MatchConsoleLimit.setCaption("");
 
-    Paint(s.WeaponType[1], false);
+    Paint(s.WeaponType[1], Shade::Inactive);
     s.WeaponType[1].setIndex(-1);
-    PaintLabels({&s.SkillLabel[1], &s.SkillLabel[2]}, false);
+    PaintLabels({&s.SkillLabel[1], &s.SkillLabel[2]}, Shade::Inactive);
 
     for (int i = 1; i <= 8; ++i) {
         s.WeaponSkill[i].setEnabled(false);
-        Paint(s.WeaponSkill[i], false);
+        Paint(s.WeaponSkill[i], Shade::Inactive);
         s.WeaponSkill[i].setText("");
-        if (HasLabel(i)) PaintLabel(s.WeaponSkillLabel[i], false);
+        if (HasLabel(i)) PaintLabel(s.WeaponSkillLabel[i], Shade::Inactive);
         if (i <= 3) {
             s.WeaponMod[i].setEnabled(false);
-            Paint(s.WeaponMod[i], false);
+            Paint(s.WeaponMod[i], Shade::Inactive);
             s.WeaponMod[i].setIndex(-1);
         }
         if (i <= 4) {
@@ -171,14 +171,14 @@ void BackToRelative(Calculator& c, Vessel v) {
             // until a console is chosen again.
             for (List* list : {&s.TacticalConsole[i], &s.TacticalConsoleMark[i], &s.TacticalConsoleRarity[i]}) {
                 list->setEnabled(false);
-                Paint(*list, false);
+                Paint(*list, Shade::Inactive);
             }
             s.TacticalConsoleEquipped[i].setEnabled(false);
             s.TacticalConsole[i].setIndex(-1);
             s.TacticalConsoleEquipped[i].setValue(0);
         }
         if (i <= 7) {
-            Paint(s.CalculatedWeaponDPS[i], s.CalculatedWeaponDPSLabel[i], false);
+            Paint(s.CalculatedWeaponDPS[i], s.CalculatedWeaponDPSLabel[i], Shade::Inactive);
             s.CalculatedWeaponDPS[i].setCaption("");
         }
     }

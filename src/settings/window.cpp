@@ -1,6 +1,7 @@
 #include "settings/window.h"
 
 #include "settings/consoles.h"
+#include "settings/paint.h"
 #include "settings/placement.h"
 #include "settings/weapons.h"
 
@@ -184,16 +185,21 @@ void LayOut(VesselSettings& s, bool omega) {
     Place(s.Help[0], kCloseLeft - kBoxGap - kFootButton, kFootTop, kFootButton, kHeadingHeight);
 }
 
-void Caption(Label& l, std::string caption, bool active = false) {
+void Caption(Label& l, std::string caption, Shade shade = Shade::Inactive) {
     l.setCaption(std::move(caption));
-    l.setFore(active ? White : Grey);
+    PaintLabel(l, shade);
 }
 
+// Whether a check box can be used at the start.
+enum class Start { Open, Closed };
+Start OpenIf(bool open) { return open ? Start::Open : Start::Closed; }
+Shade ActiveIf(bool active) { return active ? Shade::Active : Shade::Inactive; }
+
 // A check box stands on the black page with white text, whatever its state.
-void Check(Flag& f, int value, std::string caption, std::string tooltip, bool enabled) {
+void Check(Flag& f, int value, std::string caption, std::string tooltip, Start start) {
     f = Flag(value, std::move(caption));
     f.setTooltip(std::move(tooltip));
-    f.setEnabled(enabled);
+    f.setEnabled(start == Start::Open);
     f.setFore(White);
     f.setBack(Black);
 }
@@ -254,15 +260,15 @@ void SetUpSettingsWindow(VesselSettings& s, Vessel v) {
     };
 
     // Character.
-    Caption(s.CharacterSettingsLabel, "Character Settings", !omega);
+    Caption(s.CharacterSettingsLabel, "Character Settings", ActiveIf(!omega));
     Check(s.CharacterSettings, 1, "Unrestricted",
           "Check to set character settings to unrestricted mode.  Uncheck to allow advance character customization.",
-          true);
+          Start::Open);
     s.CharacterSettings.setVisible(!omega);
     Check(s.SameAsAlpha, 1, "Same As Alpha",
           "Check to automatically match the settings of the Alpha vessel.  Uncheck to allow advanced customization of "
           "this vessel.",
-          true);
+          Start::Open);
     s.SameAsAlpha.setVisible(omega);
     Caption(s.FactionLabel, "Faction");
     Caption(s.RankLabel, "Rank");
@@ -277,12 +283,12 @@ void SetUpSettingsWindow(VesselSettings& s, Vessel v) {
                "Select the career of your captain.");
 
     // Combat.
-    Caption(s.CriticalSettingsLabel, "Combat Settings", !omega);
+    Caption(s.CriticalSettingsLabel, "Combat Settings", ActiveIf(!omega));
     Check(s.CriticalSettings, 1, "Default Settings",
           "Uncheck to customize the skills and equipment which determine your critical hit chance, critical "
           "severity, and the effectiveness of Attack Patterns.  Check to use default settings: 4.5% Critical Chance, "
           "75% Critical Severity.",
-          !omega);
+          OpenIf(!omega));
     const char* const critNames[4] = {"", "Attack Vectors", "Combat Maneuvers", "Battle Strategy"};
     const std::string critTips[4] = {
         "",
@@ -303,13 +309,13 @@ void SetUpSettingsWindow(VesselSettings& s, Vessel v) {
     s.CriticalItem.setHint("Select Equipment Bonuses");
     Check(s.DamageResistance, 0, "Calculate Damage Res.",
           "Check to include the effects of damage resistance in the DPS and average Burst Damage calculations.",
-          !omega);
+          OpenIf(!omega));
     ClosedText(s.TargetResistance, "11.88",
                "Enter the target's damage resistance.  Default: 11.88 (Max Battle Strategy, plus Damage Received "
                "accolade bonus)");
     Caption(s.TargetResistanceLabel, "Target Resistance");
     Check(s.Accuracy, 0, "Calculate Accuracy",
-          "Check to include the effects of misses in the DPS and average Burst Damage calculations.", !omega);
+          "Check to include the effects of misses in the DPS and average Burst Damage calculations.", OpenIf(!omega));
     ClosedText(s.TargetDefense, "60",
                "Enter the target's defense rating.  Base Values: -15 stationary target, 60 max speed.  Bonus Values: "
                "+10 Escort speed bonus, +10 Elusive trait, +10 Aegis equipment bonus.  If you have the Accurate "
@@ -325,11 +331,11 @@ void SetUpSettingsWindow(VesselSettings& s, Vessel v) {
     Caption(s.HitRateLabel, omega ? "Accuracy" : "Hit Rate");
 
     // Power.
-    Caption(s.PowerSettings, "Power Settings", !omega);
+    Caption(s.PowerSettings, "Power Settings", ActiveIf(!omega));
     Check(s.ExtrapolatePower, 0, "Extrapolate Additional Power Settings",
           "Check to allow the program to derive additional power setting estimates from the test data.   Uncheck to "
           "list only power settings based on hard test data.",
-          !omega);
+          OpenIf(!omega));
     const char* const powerNames[6] = {"",
                                        "Warp Core Training",
                                        "Weapon Efficiency",
@@ -357,14 +363,14 @@ void SetUpSettingsWindow(VesselSettings& s, Vessel v) {
     s.PowerCaptain.setHint("Select Captain Efficiency Trait");
     Check(s.WarpCore, 0, "Warp Theorist",
           "Check if your captain has the Warp Theorist trait, which provides a +10 bonus to Warp Core Training.",
-          false);
+          Start::Closed);
     OutputBox(s.PowerBonus, "");
     Caption(s.PowerBonusLabel, "Current Power Bonus (100 Weapon Power)");
 
     // Weapons.
-    Caption(s.WeaponDamageLabel, "Weapon Settings", !omega);
+    Caption(s.WeaponDamageLabel, "Weapon Settings", ActiveIf(!omega));
     Check(s.RelativeDPS, 1, "Relative DPS",
-          "Check to enable Relative DPS mode.  Uncheck to allow advanced weapon customization.", !omega);
+          "Check to enable Relative DPS mode.  Uncheck to allow advanced weapon customization.", OpenIf(!omega));
     Caption(s.WeaponMarklabel, "Weapon Mark");
     Caption(s.WeaponModLabel, "Weapon Mods");
     ClosedList(s.WeaponMark,
@@ -411,22 +417,22 @@ void SetUpSettingsWindow(VesselSettings& s, Vessel v) {
                 : "Check this box if your captain has attained an Energy Weapon Type Accolade Bonus, which grants a "
                   "bonus of +2% to the base damage of a specific Energy Weapon Type.  This can be found in the game "
                   "under: Player Stats > Passive > From Accolades: Space.",
-          false);
+          Start::Closed);
     Check(s.WeaponAccolade[2], 1, "Missile Commander Accolade Bonus",
           std::string("Check if your captain has attained the Missile Commander ") +
               (omega ? "Accolade Bonus" : "accolade bonus") +
               ", which grants a bonus of +2% to the base damage of projectile weapons.  This can be found in the "
               "game under: Player Stats > Passive > From Accolades: Space.",
-          false);
+          Start::Closed);
     Caption(s.TacticalConsoleLabel, "Tactical Consoles");
     Check(s.MatchConsole, 1, "Match Ship Console Limit",
           "Automatically equips the number of tactical consoles available on your selected ship.  Consoles are "
           "equipped from the top down.  Unequipped consoles may still be customized, and will be used automatically "
           "if you switch to a ship with more consoles.",
-          false);
+          Start::Closed);
     OutputBox(s.MatchConsoleLimit, "");
     for (int i = 1; i <= 4; ++i) {
-        Check(s.TacticalConsoleEquipped[i], 1, "", "Check to equip this console.  Uncheck to unequip.", false);
+        Check(s.TacticalConsoleEquipped[i], 1, "", "Check to equip this console.  Uncheck to unequip.", Start::Closed);
         ClosedList(s.TacticalConsole[i],
                    {"Empty", "Directed Energy Distribution (+Beams)", "Prefire Chamber (+Cannons)",
                     "Specific Energy Type (+Energy)", "Warhead Yield Chamber (+Torpedoes)",
