@@ -4,6 +4,7 @@
 #include "engine/combat.h"
 #include "engine/modifiers.h"
 #include "engine/power.h"
+#include "engine/selection.h"
 #include "settings/character.h"
 #include "settings/combat.h"
 #include "settings/paint.h"
@@ -81,6 +82,9 @@ void Mirror(Calculator& c) {
     PaintLabel(o.FactionLabel, Shade::Inactive);
     Follow(o.Rank, a.Rank, kOmegaShift);
     PaintLabel(o.RankLabel, Shade::Inactive);
+    // Omega's lists held the rows its own rank offered: they take those of
+    // Alpha's rank, so that every row Alpha may copy is there.
+    WeaponControl(c, 2, GetRank(c, 2));
     o.Class.setEnabled(false);
     Paint(o.Class, o.ClassLabel, Shade::Inactive);
     o.Class.setIndex(-1);
@@ -93,7 +97,14 @@ void Mirror(Calculator& c) {
         a.CopySettings[i].setEnabled(false);
         o.Help[i].setEnabled(false);
     }
-    if (o.RelativeDPS.value() == 0) FollowWeapons(c);
+    if (o.RelativeDPS.value() == 0) {
+        FollowWeapons(c);
+    } else {
+        // Closed on both sides, the weapon section is left out; only the
+        // console match, which going back to Relative DPS resets on Alpha
+        // alone, is taken, so that it agrees when the section opens again.
+        Follow(o.MatchConsole, a.MatchConsole);
+    }
     ModifiedDPS(c, 2);
 
     for (int i = 1; i <= 5; ++i) {

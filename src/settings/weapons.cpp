@@ -140,8 +140,12 @@ void BackToRelative(Calculator& c, Vessel v) {
                          static_cast<Control*>(&s.WeaponType[1]), static_cast<Control*>(&s.WeaponAccolade[1]),
                          static_cast<Control*>(&s.WeaponAccolade[2])})
         ctl->setEnabled(false);
-    s.WeaponAccolade[1].setValue(1);
-    s.WeaponAccolade[2].setValue(1);
+    // The accolades go back to checked while closed, where their handler
+    // passes nothing on: a mirrored Omega takes the same values here.
+    for (int i = 1; i <= 2; ++i) {
+        s.WeaponAccolade[i].setValue(1);
+        if (v == 1 && OmegaMirrorsAlpha(c)) c.Omega().WeaponAccolade[i].setValue(1);
+    }
 
     PaintLabels({&s.WeaponModLabel, &s.WeaponMarklabel, &s.TacticalConsoleLabel, &s.DisplayedDPSLabel[1],
                  &s.DisplayedDPSLabel[2]},

@@ -124,7 +124,9 @@ void RewriteConsoleRow(Calculator& c, Vessel v, int row, const std::string& text
         if (open) {
             console.setEnabled(true);
             mark.setEnabled(true);
-            rarity.setEnabled(true);
+            // A rarity list stays closed until its slot has a mark to build
+            // its rows from: its stored rows are never offered.
+            if (mark.index() >= 0) rarity.setEnabled(true);
         }
     }
 }

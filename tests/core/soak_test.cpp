@@ -95,7 +95,65 @@ class Player {
     std::string m_last;
 };
 
-void CheckPromises(const Calculator& c, const ControlRegistry& registry, const std::string& after) {
+// A mirrored Omega holds Alpha's values: its faction and rank one row lower
+// in its lists, its career none; its console slots are equipped for its own
+// ship.
+void ExpectOmegaHoldsAlphasValues(const Calculator& c, const ControlRegistry& registry, const std::string& after) {
+    const VesselSettings& a = c.Alpha();
+    const VesselSettings& o = c.Omega();
+    ASSERT_EQ(std::max(o.Faction.index() - 1, -1), a.Faction.index()) << "Omega.Faction after " << after;
+    ASSERT_EQ(std::max(o.Rank.index() - 1, -1), a.Rank.index()) << "Omega.Rank after " << after;
+    for (const ControlRef& ref : registry.all()) {
+        if (ref.window != "Omega" || !ref.control || ref.control == ref.form) continue;
+        const std::string field = ref.name.substr(6);
+        if (field == "Faction" || field == "Rank" || field == "Class" || field == "SameAsAlpha" ||
+            field == "CharacterSettings" || field.rfind("TacticalConsoleEquipped", 0) == 0)
+            continue;
+        const ControlRef* alpha = registry.find("Alpha." + field);
+        switch (ref.kind()) {
+        case ValueKind::Text: {
+            // What only Alpha accepts (47) arrives as Omega's box makes it.
+            const Text& box = *std::get<Text*>(ref.target);
+            std::string expected = std::get<Text*>(alpha->target)->text();
+            if (const auto kind = KindOf(field))
+                expected = CorrectedText(*kind, 2, expected, box.enabled()).value_or(expected);
+            ASSERT_EQ(box.text(), expected) << ref.name << " after " << after;
+            break;
+        }
+        case ValueKind::List:
+            ASSERT_EQ(std::get<List*>(ref.target)->index(), std::get<List*>(alpha->target)->index())
+                << ref.name << " after " << after;
+            break;
+        case ValueKind::Flag:
+            ASSERT_EQ(std::get<Flag*>(ref.target)->value(), std::get<Flag*>(alpha->target)->value())
+                << ref.name << " after " << after;
+            break;
+        default:
+            break;
+        }
+    }
+}
+
+// Whether a mirrored Omega can be held to Alpha's values. A rank row copied
+// into an unrestricted Alpha becomes Omega's own rank once mirrored, and the
+// lists that rank limits hold other rows than Alpha's; from then on Omega is
+// compared again only after it was free and followed anew.
+class Comparable {
+  public:
+    bool operator()(const Calculator& c) {
+        if (c.Omega().SameAsAlpha.value() == 0) {
+            m_ok = true;
+        } else if (GetRank(c, 1) != GetRank(c, 2)) {
+            m_ok = false;
+        }
+        return m_ok && c.Omega().SameAsAlpha.value() == 1;
+    }
+
+  private:
+    bool m_ok = true;
+};
+
+void CheckPromises(const Calculator& c, const ControlRegistry& registry, bool comparable, const std::string& after) {
     const bool mirrored = c.Omega().SameAsAlpha.value() == 1;
     for (const ControlRef& ref : registry.all()) {
         if (!OnSettings(ref) || !ref.control || ref.control == ref.form) continue;
@@ -122,23 +180,25 @@ void CheckPromises(const Calculator& c, const ControlRegistry& registry, const s
             ASSERT_EQ(ref.control->back(), ref.control->enabled() ? White : Grey) << ref.name << " after " << after;
         }
     }
+    if (comparable) ExpectOmegaHoldsAlphasValues(c, registry, after);
     const bool held = c.note.Form.visible();
     for (const Window* w : {&c.main.Form1, &c.Alpha().Form, &c.Omega().Form})
         ASSERT_EQ(w->enabled(), !held) << "after " << after;
 }
 
 TEST(Soak, RandomActionsKeepTheWindowsPromises) {
-    for (unsigned seed : {1u, 2u, 3u, 4u}) {
+    for (unsigned seed = 1; seed <= 6; ++seed) {
         Program c;
         const ControlRegistry registry(c);
         Player player(seed);
+        Comparable comparable;
         // Both settings windows within reach from the start.
         c.main.Compare.press();
         c.main.Advanced[1].press();
         c.main.Advanced[2].press();
-        for (int step = 0; step < 1500; ++step) {
+        for (int step = 0; step < 2000; ++step) {
             player.act(c, registry);
-            CheckPromises(c, registry,
+            CheckPromises(c, registry, comparable(c),
                           player.last() + " (seed " + std::to_string(seed) + ", step " + std::to_string(step) + ")");
             if (::testing::Test::HasFatalFailure()) return;
         }
