@@ -12,6 +12,7 @@
 #include "skills/skills.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace vantorel {
 
@@ -29,6 +30,15 @@ constexpr int kRankedSkills[4] = {2, 3, 6, 7};
 constexpr int kRankedSkillsFrom = 2;
 
 bool HasLabel(int i) { return i != 4 && i != 8; }
+
+void Enable(std::initializer_list<Control*> controls) {
+    for (Control* ctl : controls)
+        ctl->setEnabled(true);
+}
+void Disable(std::initializer_list<Control*> controls) {
+    for (Control* ctl : controls)
+        ctl->setEnabled(false);
+}
 
 // In Omega, what opens here opens only while the window is its own.
 bool MayOpen(const Calculator& c, Vessel v) { return v == 1 || !OmegaMirrorsAlpha(c); }
@@ -114,11 +124,8 @@ void Customise(Calculator& c, Vessel v) {
     for (int i = 1; i <= 7; ++i)
         Paint(s.CalculatedWeaponDPS[i], s.CalculatedWeaponDPSLabel[i], Shade::Active);
     Paint(s.MatchConsoleLimit, Shade::Active);
-    for (Control* ctl : {static_cast<Control*>(&s.WeaponAccolade[1]), static_cast<Control*>(&s.WeaponAccolade[2]),
-                         static_cast<Control*>(&s.MatchConsole), static_cast<Control*>(&s.WeaponMark),
-                         static_cast<Control*>(&s.WeaponType[1]), static_cast<Control*>(&s.WeaponSkill[1]),
-                         static_cast<Control*>(&s.WeaponSkill[5])})
-        ctl->setEnabled(true);
+    Enable({&s.WeaponAccolade[1], &s.WeaponAccolade[2], &s.MatchConsole, &s.WeaponMark, &s.WeaponType[1],
+            &s.WeaponSkill[1], &s.WeaponSkill[5]});
     for (int i = 1; i <= 4; ++i) {
         s.TacticalConsole[i].setEnabled(true);
         if (!fresh && s.MatchConsole.value() == 0) s.TacticalConsoleEquipped[i].setEnabled(true);
@@ -136,10 +143,7 @@ void Customise(Calculator& c, Vessel v) {
 // Back to Relative DPS: the section closes and forgets its values.
 void BackToRelative(Calculator& c, Vessel v) {
     VesselSettings& s = c.settings[v];
-    for (Control* ctl : {static_cast<Control*>(&s.WeaponMark), static_cast<Control*>(&s.MatchConsole),
-                         static_cast<Control*>(&s.WeaponType[1]), static_cast<Control*>(&s.WeaponAccolade[1]),
-                         static_cast<Control*>(&s.WeaponAccolade[2])})
-        ctl->setEnabled(false);
+    Disable({&s.WeaponMark, &s.MatchConsole, &s.WeaponType[1], &s.WeaponAccolade[1], &s.WeaponAccolade[2]});
     // The accolades go back to checked while closed, where their handler
     // passes nothing on: a mirrored Omega takes the same values here.
     for (int i = 1; i <= 2; ++i) {
