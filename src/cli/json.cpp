@@ -90,7 +90,9 @@ struct ValueWriter {
         for (int i = 0; i < l->count(); ++i)
             rows += (i ? "," : "") + JsonString(l->row(i));
         rows += "]";
-        return "{\"rows\":" + rows + ",\"index\":" + Int(l->index()) + ",\"text\":" + JsonString(l->text()) +
+        // A prompt shows only on the lists that have one.
+        const std::string hint = l->hint().empty() ? "" : ",\"hint\":" + JsonString(l->hint());
+        return "{\"rows\":" + rows + ",\"index\":" + Int(l->index()) + ",\"text\":" + JsonString(l->text()) + hint +
                ",\"tooltip\":" + JsonString(l->tooltip()) + "," + Common(*l);
     }
     std::string operator()(Label* l) const { return Captioned(l->caption(), l->tooltip(), *l); }

@@ -204,6 +204,10 @@ class List : public Control {
 
     const std::string& tooltip() const { return m_tooltip; }
     void setTooltip(std::string s) { update(m_tooltip, std::move(s)); }
+    // The prompt a list without typing shows while nothing is selected
+    // ("Select Equipment Bonuses"); it is not a row and never selected.
+    const std::string& hint() const { return m_hint; }
+    void setHint(std::string s) { update(m_hint, std::move(s)); }
 
     bool runsWhenDisabled() const { return m_runsWhenDisabled; }
     void setRunsWhenDisabled(bool on) { m_runsWhenDisabled = on; }
@@ -222,6 +226,7 @@ class List : public Control {
     bool m_typing = false;
     bool m_runsWhenDisabled = false;
     std::string m_tooltip;
+    std::string m_hint;
 };
 
 // A label or output box: caption and tooltip, written by the program.

@@ -54,6 +54,7 @@ struct MainSelection {
 struct VesselSettings {
     Vessel vessel = 1;
     Window Form;
+    Control Contents; // the tall page of the four sections; VScroll1 moves it
 
     Button Close;
     Indexed<Button, 0, 4> Help;

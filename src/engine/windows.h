@@ -72,6 +72,12 @@ struct AboutWindow {
 // Window `Note`: a warning that holds the other windows until it is closed.
 struct NoteWindow {
     Window Form;
+    Label InfoText; // the warning itself, written by the caller
+    Flag WarningCheck;
+    Button Readme, Close;
+    // Which window raised the warning: 3 `Alpha`, 4 `Omega`. The manual
+    // opens beside it.
+    int CallerCode = 0;
 };
 
 // Window `SplashScreen`: a picture while the program starts. Each picture

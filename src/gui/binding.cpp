@@ -95,6 +95,38 @@ void ShowList(QComboBox* w, const List& f, const Twips& twips) {
         // user's own typing keeps its cursor.
         if (moved && !w->lineEdit()->hasFocus()) w->lineEdit()->setCursorPosition(0);
     }
+    // A list without typing shows its prompt while nothing is selected, in
+    // the list's own text colour: it reads as the list's caption.
+    const QString hint = ToQString(f.hint());
+    if (w->placeholderText() != hint) w->setPlaceholderText(hint);
+    SetToolTip(w, f.tooltip());
+    SetPalette(w, QPalette::Base, QPalette::Text, f);
+    // A list without typing is drawn as a button: its face takes the list's
+    // background, and the row, or the prompt, its text colour also while the
+    // list is closed, so a grey list keeps dark, readable text.
+    const QColor back = ToQColor(f.back());
+    const QColor text = ToQColor(f.fore());
+    const QPalette& now = w->palette();
+    if (now.color(QPalette::Disabled, QPalette::Button) != back ||
+        now.color(QPalette::Disabled, QPalette::ButtonText) != text || now.color(QPalette::PlaceholderText) != text) {
+        QPalette p = now;
+        p.setColor(QPalette::Button, back);
+        p.setColor(QPalette::ButtonText, text);
+        p.setColor(QPalette::PlaceholderText, text);
+        w->setPalette(p);
+    }
+    ShowControl(w, f, twips);
+}
+
+void ShowText(QLineEdit* w, const Text& f, const Twips& twips) {
+    const QString text = ToQString(f.text());
+    if (w->text() != text) {
+        // The user's cursor stays where it was, as far as the new text
+        // reaches; a text the program puts in shows its start.
+        const int cursor = w->cursorPosition();
+        w->setText(text);
+        w->setCursorPosition(w->hasFocus() ? std::min(cursor, static_cast<int>(text.size())) : 0);
+    }
     SetToolTip(w, f.tooltip());
     SetPalette(w, QPalette::Base, QPalette::Text, f);
     ShowControl(w, f, twips);
@@ -125,14 +157,6 @@ void ShowScrollBar(QScrollBar* w, const ScrollBar& f, const Twips& twips) {
     if (w->singleStep() != f.smallStep()) w->setSingleStep(f.smallStep());
     if (w->pageStep() != f.largeStep()) w->setPageStep(f.largeStep());
     if (w->value() != f.value()) w->setValue(f.value());
-    ShowControl(w, f, twips);
-}
-
-void ShowText(QLineEdit* w, const Text& f, const Twips& twips) {
-    const QString text = ToQString(f.text());
-    if (w->text() != text) w->setText(text);
-    SetToolTip(w, f.tooltip());
-    SetPalette(w, QPalette::Base, QPalette::Text, f);
     ShowControl(w, f, twips);
 }
 

@@ -32,6 +32,8 @@ void ListBox::paintEvent(QPaintEvent* event) {
         option.palette.setColor(QPalette::Text, text);
         option.palette.setColor(QPalette::ButtonText, text);
     }
+    // With nothing selected a list shows its prompt, if it has one.
+    if (currentIndex() < 0 && !placeholderText().isEmpty()) option.currentText = placeholderText();
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     const QRect text = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, text.width());

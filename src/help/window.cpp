@@ -55,8 +55,6 @@ void SetUpAboutWindow(AboutWindow& a) {
     Put(a.OK, 3840, 4080, 1695, 375);
 }
 
-void SetUpNoteWindow(NoteWindow& n) { n.Form = Window(""); }
-
 void SetUpSplashWindow(SplashWindow& s) {
     s.Form = Window("");
     s.Form.setBack(Black);
@@ -92,8 +90,6 @@ void RegisterFields(FieldTable& table, AboutWindow& a) {
     names.one("Online", a.Online);
     names.one("OK", a.OK);
 }
-
-void RegisterFields(FieldTable& table, NoteWindow& n) { FieldNames(table, "Note", &n.Form).window(n.Form); }
 
 void RegisterFields(FieldTable& table, SplashWindow& s) {
     FieldNames names(table, "SplashScreen", &s.Form);

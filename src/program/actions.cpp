@@ -62,7 +62,8 @@ std::span<const std::string_view> TypedTexts() { return kTypedTexts; }
 
 bool IsUsable(const ControlRef& ref) {
     if (!ref.control || !ref.control->visible() || !ref.control->enabled()) return false;
-    return !ref.form || ref.form == ref.control || ref.form->visible();
+    // A window must be on show, and not held by a warning that disables it.
+    return !ref.form || ref.form == ref.control || (ref.form->visible() && ref.form->enabled());
 }
 
 std::vector<const ControlRef*> ActionableControls(const ControlRegistry& registry) {

@@ -3,6 +3,7 @@
 #include "engine/dpw.h"
 #include "engine/power.h"
 #include "graph/window.h"
+#include "help/note.h"
 #include "help/window.h"
 #include "mainwindow/window.h"
 #include "settings/window.h"

@@ -1,6 +1,7 @@
 #include "program/registry.h"
 
 #include "graph/window.h"
+#include "help/note.h"
 #include "help/window.h"
 #include "mainwindow/window.h"
 #include "settings/window.h"

@@ -27,6 +27,7 @@ void WireHandlers(Calculator& c) {
     WireSkillsWindows(c);
     WireGraphWindow(c);
     WireHelpWindows(c);
+    WireNoteWindow(c);
 }
 
 } // namespace vantorel

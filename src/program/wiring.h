@@ -12,5 +12,6 @@ void WireSettingsWindows(Calculator& c);
 void WireSkillsWindows(Calculator& c);
 void WireGraphWindow(Calculator& c);
 void WireHelpWindows(Calculator& c);
+void WireNoteWindow(Calculator& c);
 
 } // namespace vantorel

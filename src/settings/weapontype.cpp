@@ -3,6 +3,8 @@
 #include "catalogue/cascade.h"
 #include "engine/numbers.h"
 #include "engine/selection.h"
+#include "settings/weapons.h"
+#include "skills/skills.h"
 
 #include <string>
 
@@ -122,7 +124,9 @@ void RewriteConsoleRow(Calculator& c, Vessel v, int row, const std::string& text
         if (open) {
             console.setEnabled(true);
             mark.setEnabled(true);
-            rarity.setEnabled(true);
+            // A rarity list stays closed until its slot has a mark to build
+            // its rows from: its stored rows are never offered.
+            if (mark.index() >= 0) rarity.setEnabled(true);
         }
     }
 }
@@ -152,28 +156,6 @@ void UpdateTypeSkillBox(Calculator& c, Vessel v, int k, int index) {
     box.setEnabled(true);
 }
 
-// The captions over the displayed damage boxes name the weapons with their
-// damage type, except in relative mode where the stored names stand.
-void DisplayedDPSUpdate(Calculator& c, Vessel v) {
-    VesselSettings& s = c.settings[v];
-    if (s.RelativeDPS.value() == 1) {
-        const char* const stored[8] = {
-            "",       "Dual (Heavy) Cannons", "Dual Beam Bank", "Single Cannon", "Beam Array",
-            "Turret", "Torpedo Launcher",     "Mine Launcher"};
-        for (int i = 1; i <= 7; ++i)
-            s.CalculatedWeaponDPSLabel[i].setCaption(stored[i]);
-    } else {
-        const std::string e = GetDamageType(c, v, DamageGroup::Energy);
-        const std::string p = GetDamageType(c, v, DamageGroup::Projectile);
-        const std::string named[8] = {
-            "",           e + "Dual (Heavy) Cannons", "Dual " + e + "Beam Bank", e + "Cannon", e + "Beam Array",
-            e + "Turret", p + "Torpedo Launcher",     p + "Mine Launcher"};
-        for (int i = 1; i <= 7; ++i)
-            s.CalculatedWeaponDPSLabel[i].setCaption(named[i]);
-    }
-    if (v == 1 && OmegaMirrorsAlpha(c)) DisplayedDPSUpdate(c, 2);
-}
-
 } // namespace
 
 void WeaponTypeChanged(Calculator& c, Vessel v, int k) {
@@ -193,8 +175,14 @@ void WeaponTypeChanged(Calculator& c, Vessel v, int k) {
 
     // Omega's type lists run their handler even while disabled, so the
     // mirrored list rewrites Omega's rows too.
-    if (v == 1 && OmegaMirrorsAlpha(c)) c.Omega().WeaponType[k].setIndex(index);
-    if (list.enabled()) ShipControl(c);
+    if (v == 1 && OmegaMirrorsAlpha(c)) {
+        c.Omega().WeaponType[k].setIndex(index);
+        if (list.enabled()) TorpedoUpdate(c, 2);
+    }
+    if (list.enabled()) {
+        ShipControl(c);
+        TorpedoUpdate(c, v);
+    }
 }
 
 void ResetModifier(Calculator& c) {

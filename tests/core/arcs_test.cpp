@@ -54,12 +54,13 @@ TEST(WeaponCounting, PortTextsToSlots) {
 TEST(WeaponCounting, OldNamesAndOmegaPorts) {
     Program c;
     c.Alpha().RelativeDPS.setValue(0);
-    // A free Omega keeps its own damage types: none.
+    // A free Omega keeps the damage types it took from Alpha while it
+    // followed: Phaser.
     c.Omega().SameAsAlpha.setValue(0);
     c.Alpha().WeaponType[1].setIndex(0);
     c.main.Forward[1].setText("Phaser Beam Array");
-    c.main.CForward[2].setText("Beam Array");
-    c.main.CRear[1].setText("Turret");
+    c.main.CForward[2].setText("Phaser Beam Array");
+    c.main.CRear[1].setText("Phaser Turret");
     CountWeapons(c);
     EXPECT_EQ(std::tuple(c.state.WeaponCount[5][1], c.state.WeaponCount[5][2]), std::tuple(1, 1));
     EXPECT_EQ(c.state.WeaponCount[6][2], 1);

@@ -207,8 +207,13 @@ TEST(Chains, RelativeDPSIsOneSettingForBothVessels) {
     Program c;
     c.Alpha().RelativeDPS.setValue(0);
     EXPECT_EQ(c.Omega().RelativeDPS.value(), 0);
-    EXPECT_TRUE(c.Alpha().WeaponMark.enabled() && c.Omega().WeaponMod[3].enabled());
+    // A mirrored Omega holds Alpha's choices, closed.
+    EXPECT_TRUE(c.Alpha().WeaponMark.enabled() && !c.Omega().WeaponMod[3].enabled());
+    EXPECT_EQ(c.Omega().WeaponMod[3].index(), c.Alpha().WeaponMod[3].index());
     EXPECT_NE(c.Alpha().CalculatedWeaponDPS[4].caption(), "");
+    // A free Omega changes it for both.
+    c.Omega().SameAsAlpha.setValue(0);
+    EXPECT_TRUE(c.Omega().WeaponMod[3].enabled());
     c.Omega().RelativeDPS.setValue(1);
     EXPECT_EQ(c.Alpha().RelativeDPS.value(), 1);
     EXPECT_FALSE(c.Alpha().WeaponMark.enabled());
@@ -359,6 +364,7 @@ TEST(Modifiers, WeaponSkillBonus) {
     // clang-format on
     for (const Case& k : cases) {
         Program c;
+        testing::PlainSettings(c);
         for (int i = 1; i <= 8; ++i)
             c.Alpha().WeaponSkill[i].setText(k.boxes[i]);
         EXPECT_EQ(WeaponSkillBonus(c, static_cast<BonusKind>(k.kind), 1), k.bonus) << k.name;
@@ -382,6 +388,7 @@ TEST(Modifiers, ConsoleBonus) {
     // clang-format on
     for (const Case& k : cases) {
         Program c;
+        testing::PlainSettings(c);
         VesselSettings& a = c.Alpha();
         a.TacticalConsole[2].setIndex(k.console);
         a.TacticalConsoleMark[2].setIndex(k.mark);

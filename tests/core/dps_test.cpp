@@ -117,6 +117,7 @@ TEST(DpsAssembly, CriticalMultiplier) {
     // clang-format on
     for (const Case& k : cases) {
         Program c;
+        testing::PlainSettings(c);
         VesselSettings& a = c.Alpha();
         a.CriticalSettings.setValue(k.criticalSettings);
         a.CriticalSkill[1].setText(k.vectors);
@@ -127,6 +128,7 @@ TEST(DpsAssembly, CriticalMultiplier) {
     }
     // Weapon mods count only outside relative mode.
     Program c;
+    testing::PlainSettings(c);
     c.Alpha().WeaponMod[1].setIndex(2);
     c.Alpha().WeaponMod[2].setIndex(3);
     EXPECT_EQ(CriticalMultiplier(c, 1, Severity::Plain, 0.0f, 0.0f), 1.03375f);

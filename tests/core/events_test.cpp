@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <tuple>
 
 namespace vantorel {
@@ -145,7 +146,7 @@ TEST(Shuttles, BurstReadsTheRebuiltRankList) {
         c.skills[1].BeamOverloadActivated.setValue(1);
         if (k.grade >= 0) Shuttle(c, 0, k.rankRow, k.grade);
         c.Alpha().Rank.setIndex(k.newRankRow);
-        c.main.Forward[1].setText("Shuttle Beam Array");
+        c.main.Forward[1].setText("Shuttle " + GetDamageType(c, 1, DamageGroup::Energy) + "Beam Array");
         CalculateFiringArcs(c);
         const float shown = c.state.ArcDPS[6][1];
         CalculateFiringArcs(c);
@@ -397,12 +398,17 @@ TEST(Comparison, OmegaFollowsAlphaOnItsSameAsRows) {
 
 using testing::RowOf;
 
-// Extrapolation on, with the whole bonus given as equipment.
-void Extrapolate(Calculator& c, Vessel v, const char* equipment) {
+// Extrapolation on, with the given power skills and none other: opening
+// the section fills the boxes, which are emptied first.
+void ExtrapolateWith(Calculator& c, Vessel v, const std::array<const char*, 5>& skills) {
     c.settings[v].ExtrapolatePower.setValue(1);
-    c.settings[v].PowerSkill[5].setText(equipment);
+    for (int i = 1; i <= 5; ++i)
+        c.settings[v].PowerSkill[i].setText(skills[static_cast<std::size_t>(i - 1)]);
     CalculatePower(c, v, Rebuild::Always);
 }
+
+// Extrapolation on, with the whole bonus given as equipment.
+void Extrapolate(Calculator& c, Vessel v, const char* equipment) { ExtrapolateWith(c, v, {"", "", "", "", equipment}); }
 
 TEST(PowerModel, TestedLevelsWithoutExtrapolation) {
     Program c;
@@ -458,6 +464,9 @@ TEST(PowerModel, BonusFarOutOfRange) {
     // clang-format on
     for (const auto& k : cases) {
         Program c;
+        // The text as it reaches the engine: the box's own check would have
+        // held it to 99.
+        c.Alpha().PowerSkill[5].setHandler({});
         Extrapolate(c, 1, k.equipment.c_str());
         const List& power = c.main.PowerLevel[1];
         EXPECT_EQ(GetPowerLevel(c, 1, Bonus::With), k.level) << k.equipment.substr(0, 12);
@@ -481,8 +490,7 @@ TEST(PowerModel, ShipBonusByClassAndTier) {
         for (int i = 0; i < tiers.count(); ++i)
             if (tiers.row(i).rfind(k.tier, 0) == 0) c.main.ShipTier[1].click(i);
         if (k.subclass > 0) c.main.ShipSubclass[1].click(k.subclass);
-        c.Alpha().ExtrapolatePower.setValue(1);
-        CalculatePower(c, 1, Rebuild::Always);
+        Extrapolate(c, 1, "");
         EXPECT_EQ(c.state.ShipPowerBonus[1], k.bonus) << k.shipClass << ", " << k.tier << ", " << k.subclass;
         if (std::string(k.shipClass) == "Bird of Prey") {
             EXPECT_EQ(c.main.PowerLevel[1].text(), "100 (115) est.");
@@ -502,6 +510,9 @@ TEST(PowerModel, OmegaSnapsToATestedLevel) {
     for (const auto& k : cases) {
         Program c;
         CompareClicked(c);
+        // A mirrored Omega would extrapolate with Alpha; a free one keeps the
+        // tested levels.
+        c.Omega().SameAsAlpha.setValue(0);
         Extrapolate(c, 1, "0");
         const int row = RowOf(c.main.PowerLevel[1], k.alphaRow);
         ASSERT_GE(row, 0) << k.alphaRow;
@@ -523,6 +534,7 @@ TEST(PowerModel, BonusDisplay) {
     // clang-format on
     for (const auto& k : cases) {
         Program c;
+        testing::PlainSettings(c);
         VesselSettings& a = c.Alpha();
         c.main.PowerLevel[1].click(k.setting);
         for (int i = 1; i <= 5; ++i)
@@ -539,8 +551,7 @@ TEST(PowerModel, BonusDisplay) {
     {
         Program w;
         VesselSettings& a = w.Alpha();
-        a.ExtrapolatePower.setValue(1);
-        a.PowerSkill[1].setText("7");
+        ExtrapolateWith(w, 1, {"7", "", "", "", ""});
         List& power = w.main.PowerLevel[1];
         for (int row = 0; row < power.count(); ++row)
             if (power.row(row).rfind("60", 0) == 0) power.click(row);
@@ -551,9 +562,7 @@ TEST(PowerModel, BonusDisplay) {
     }
     // The low-setting skills act only below 75: (52 / 300 + 18 / 200) x 40.
     Program c;
-    c.Alpha().ExtrapolatePower.setValue(1);
-    c.Alpha().PowerSkill[1].setText("9");
-    c.Alpha().PowerSkill[2].setText("9");
+    ExtrapolateWith(c, 1, {"9", "9", "", "", ""});
     c.state.ShipPowerBonus[1] = 0;
     EXPECT_EQ(PowerBonusAt(c, 1, 75) + PowerBonusAt(c, 1, 100), 0.0f);
     EXPECT_FLOAT_EQ(PowerBonusAt(c, 1, 35), static_cast<float>((52.0 / 300 + 18.0 / 200) * 40));

@@ -247,7 +247,10 @@ TEST(WeaponType, ConsoleOnTheRewrittenRowKeepsItsPlace) {
         EXPECT_EQ(a.TacticalConsole[2].text(), "Transphasic Compressor (+Transphasic Projectiles)");
         EXPECT_EQ(std::tuple(a.TacticalConsoleMark[2].index(), a.TacticalConsoleRarity[2].index()), std::tuple(3, 1));
         EXPECT_EQ(a.TacticalConsole[1].enabled(), relative == 0);
-        EXPECT_EQ(a.TacticalConsoleRarity[3].enabled(), relative == 0);
+        EXPECT_EQ(a.TacticalConsoleMark[3].enabled(), relative == 0);
+        EXPECT_EQ(a.TacticalConsoleRarity[2].enabled(), relative == 0);
+        // An empty slot's rarity list has no rows of its own yet: it stays closed.
+        EXPECT_FALSE(a.TacticalConsoleRarity[3].enabled());
         // The mirrored Omega follows, its lists closed.
         EXPECT_EQ(c.Omega().WeaponType[2].index(), 4);
         EXPECT_EQ(c.Omega().TacticalConsole[1].row(6), "Transphasic Compressor (+Transphasic Projectiles)");

@@ -79,6 +79,7 @@ TEST(Registry, CoversEveryFieldOfEveryRecord) {
     // About's way to a browser is the front end's hook, not a control.
     const auto about = At(c.about), hook = At(c.about.openPage);
     ExpectCovered(SpansWithin(registry, about, hook), about, hook, alignof(decltype(c.about.openPage)), "About");
+    ExpectCovered(registry, c.note, "Note");
     // Only [1..6][2..8][1..5] of the coefficients have names; the array
     // counts as one.
     const auto begin = At(c.state), end = begin + sizeof c.state;
@@ -115,6 +116,8 @@ TEST(Registry, FindsFieldsByTheProgramsNamesAndIndexBases) {
         {"Form1.ShipImageId[2]", At(c.main.ShipImageId[2]), ValueKind::String},
         {"Alpha.Help[0]", At(c.settings[1].Help[0]), ValueKind::Button},
         {"Omega.WeaponSkill[8]", At(c.settings[2].WeaponSkill[8]), ValueKind::Text},
+        {"Alpha.Contents", At(c.settings[1].Contents), ValueKind::Control},
+        {"Note.CallerCode", At(c.note.CallerCode), ValueKind::Int},
         {"State.ArcDPS[ 7 , 2 ]", At(c.state.ArcDPS[7][2]), ValueKind::Single},
         {"State.WeaponCount[11,2]", At(c.state.WeaponCount[11][2]), ValueKind::Int16},
         {"State.ArcShown[13]", At(c.state.ArcShown[13]), ValueKind::Bool},

@@ -26,6 +26,7 @@
 #include "mainwindow/results.h"
 #include "mainwindow/tooltips.h"
 #include "program/program.h"
+#include "program/registry.h"
 #include "settings/settings.h"
 
 #include <memory>
@@ -126,13 +127,24 @@ inline void Fit(Calculator& c, const char* const (&forward)[4], const char* cons
 }
 
 // Custom weapons with nothing on them: mark 0 ("Standard Issue"), no
-// accolades.
+// accolades, and the skill boxes that opening the section fills emptied.
 inline void PlainCustomWeapons(Calculator& c) {
     VesselSettings& a = c.Alpha();
     a.RelativeDPS.setValue(0);
     a.WeaponAccolade[1].setValue(0);
     a.WeaponAccolade[2].setValue(0);
     a.WeaponMark.setIndex(1);
+    for (int i = 1; i <= 8; ++i)
+        a.WeaponSkill[i].setText("");
+}
+
+// The settings windows' fields as plain values: no handler runs when a test
+// writes them, so an engine rule can be tried on any value, also one that
+// the window would correct or could not offer.
+inline void PlainSettings(Calculator& c) {
+    const ControlRegistry registry(c);
+    for (const ControlRef& ref : registry.all())
+        if ((ref.window == "Alpha" || ref.window == "Omega") && ref.control) ref.control->setHandler({});
 }
 
 // Custom combat settings; "" leaves a box empty.

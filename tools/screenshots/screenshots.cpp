@@ -15,12 +15,15 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QPainter>
 #include <QPixmap>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -65,6 +68,39 @@ class Shooter final {
     QWidget* m_window;
     QString m_folder;
 };
+
+// Windows side by side in the order given, on black: a window with the one
+// that follows it.
+bool ShootTogether(vantorel::ProgramWindows& windows, const QString& folder, const char* name,
+                   std::initializer_list<const vantorel::Window*> fields) {
+    constexpr int kGap = 8;
+    QApplication::processEvents();
+    std::vector<QPixmap> shots;
+    int width = 0, height = 0;
+    for (const vantorel::Window* field : fields) {
+        QWidget* w = windows.widgetOf(*field);
+        if (!w) {
+            std::fprintf(stderr, "a window of %s is not made\n", name);
+            return false;
+        }
+        shots.push_back(w->grab());
+        width += shots.back().width() + (shots.size() > 1 ? kGap : 0);
+        height = std::max(height, shots.back().height());
+    }
+    QPixmap all(width, height);
+    all.fill(Qt::black);
+    QPainter painter(&all);
+    int x = 0;
+    for (const QPixmap& shot : shots) {
+        painter.drawPixmap(x, 0, shot);
+        x += shot.width() + kGap;
+    }
+    painter.end();
+    const QString file = QDir(folder).filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
+    const bool saved = all.save(file);
+    std::printf("%s %s\n", saved ? "wrote" : "FAILED", qPrintable(file));
+    return saved;
+}
 
 // The skills windows: Alpha's in Relative DPS and in custom mode with the
 // attack patterns open, and Omega's mirroring Alpha's in comparison.
@@ -238,6 +274,30 @@ int main(int argc, char* argv[]) {
         ok = shoot.shoot(&splash, name.c_str()) && ok;
     }
     c.splash.Form.setVisible(false);
+
+    // The settings windows: Alpha as it opens, in Relative DPS.
+    c.documentation.OK.press();
+    c.about.OK.press();
+    Pick(m.ShipClass[1], "Unrestricted");
+    m.Advanced[1].press();
+    vantorel::VesselSettings& a = c.Alpha();
+    ok = ShootTogether(windows, folder, "settings-relative", {&a.Form}) && ok;
+
+    // A Lieutenant with custom combat and weapons: what the rank closes
+    // reads "N/A" in grey. Omega follows, a read-only copy.
+    m.Compare.press();
+    m.Advanced[2].press();
+    a.CharacterSettings.click();
+    Pick(a.Rank, "Lieutenant");
+    a.CriticalSettings.click();
+    a.RelativeDPS.click();
+    Pick(a.TacticalConsole[1], "Directed Energy");
+    a.DamageResistance.click();
+    ok = ShootTogether(windows, folder, "settings-mirrored", {&a.Form, &c.Omega().Form}) && ok;
+
+    // The warning that the power section raises the first time it opens.
+    a.ExtrapolatePower.click();
+    ok = ShootTogether(windows, folder, "power-warning", {&c.note.Form}) && ok;
 
     return ok ? EXIT_SUCCESS : EXIT_FAILURE;
 }

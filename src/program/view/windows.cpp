@@ -4,7 +4,9 @@
 #include "gui/toplevel.h"
 #include "help/view/about.h"
 #include "help/view/documentation.h"
+#include "help/view/notewindow.h"
 #include "mainwindow/view/mainwindow.h"
+#include "settings/view/settingswindow.h"
 #include "skills/view/skillswindow.h"
 
 #include <QDesktopServices>
@@ -25,6 +27,11 @@ void OpenInBrowser(std::string_view address) {
 } // namespace
 
 ProgramWindows::ProgramWindows(Calculator& c) : m_c(c), m_main(std::make_unique<MainWindow>(c)) {
+    // The settings windows are tall pages of many controls: made the first
+    // time the player opens them, so the start does not wait for them.
+    makeOnFirstShow(c.Alpha().Form, [&c] { return std::make_unique<SettingsWindowView>(c, 1); });
+    makeOnFirstShow(c.Omega().Form, [&c] { return std::make_unique<SettingsWindowView>(c, 2); });
+    makeOnFirstShow(c.note.Form, [&c] { return std::make_unique<NoteWindowView>(c); });
     for (Vessel v = 1; v <= 2; ++v)
         makeOnFirstShow(c.skills[v].Form, [&c, v] { return std::make_unique<SkillsWindow>(c, v); });
     makeOnFirstShow(c.graph.Form, [&c] { return std::make_unique<GraphWindowView>(c); });
