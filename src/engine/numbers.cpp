@@ -230,6 +230,21 @@ double NumericOr(std::string_view text, double fallback) {
 }
 
 int WholeNumberOf(std::string_view text, int fallback) {
+    // Skill levels are read on every recalculation, and what a box holds is
+    // nearly always a few plain digits (" 9", "10"): those are read here
+    // directly, to the same value the general reading below gives them.
+    std::size_t i = 0, end = text.size();
+    while (i < end && text[i] == ' ')
+        ++i;
+    while (end > i && text[end - 1] == ' ')
+        --end;
+    if (end > i && end - i <= 4) {
+        int whole = 0;
+        std::size_t k = i;
+        for (; k < end && text[k] >= '0' && text[k] <= '9'; ++k)
+            whole = whole * 10 + (text[k] - '0');
+        if (k == end) return whole;
+    }
     auto v = NumericValue(text);
     if (!v) return fallback;
     if (*v > 32767.0 || *v < -32768.0) return fallback;
