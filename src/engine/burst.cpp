@@ -28,10 +28,10 @@ constexpr float kOverloadFactor[4] = {0, 6.041f, 7.253f, 8.467f};
 float MineFactor(int level) { return level >= 0 && level <= 3 ? kMineFactor[level] : 1.0f; }
 
 // The torpedo type without its trailing blank: "Quantum", "Plasma", ...
-std::string TorpedoType(const Calculator& c, Vessel v) {
-    std::string type = GetDamageType(c, v, DamageGroup::Projectile);
+std::string_view TorpedoType(const Calculator& c, Vessel v) {
+    std::string_view type = GetDamageType(c, v, DamageGroup::Projectile);
     while (!type.empty() && type.back() == ' ')
-        type.pop_back();
+        type.remove_suffix(1);
     return type;
 }
 
@@ -93,7 +93,7 @@ float GetTorpedoSkill(const Calculator& c, Vessel v) {
         {"Transphasic", {1.723f, 1.97f, 2.219f}, {1.464f, 1.674f, 1.886f}},
     };
     const CalculatorState& s = c.state;
-    const std::string type = TorpedoType(c, v);
+    const std::string_view type = TorpedoType(c, v);
     const Row* row = nullptr;
     for (const Row& r : kRows)
         if (r.type == type) row = &r;
@@ -143,7 +143,7 @@ std::string BurstToolTip(Calculator& c, const BurstCounts& n, Vessel v) {
     };
 
     if (n.torpedoes > 0) {
-        const std::string prefix = GetDamageType(c, v, DamageGroup::Projectile);
+        const std::string prefix(GetDamageType(c, v, DamageGroup::Projectile));
         const bool plasma = TorpedoType(c, v) == "Plasma";
         const float t = TorpedoSkillOrOne(c, v);
         float d = RelativeMode(c) ? Round(BaseProjectileDamage(c, v) * t * critical, 3)

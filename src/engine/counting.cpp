@@ -2,47 +2,56 @@
 
 #include "engine/selection.h"
 
-#include <array>
-#include <string>
-#include <utility>
+#include <string_view>
 
 namespace vantorel {
 
 namespace {
 
 // The item texts carry the damage type of the vessel, so a port only counts
-// while its text matches the vessel's current types exactly. The texts are
-// made once per count, not once per port.
-struct ItemNames {
-    std::array<std::pair<Slot, std::string>, 8> forward;
-    std::array<std::pair<Slot, std::string>, 4> rear;
+// while its text matches the vessel's current types exactly. A name is its
+// type word between a head and a tail ("Dual " + "Phaser " + "Beam Bank"),
+// compared in place: the count runs on every recalculation and builds no text.
+struct ItemName {
+    Slot slot;
+    std::string_view head;
+    DamageGroup type;
+    std::string_view tail;
 };
 
-ItemNames NamesOf(const Calculator& c, Vessel v) {
-    const std::string e = GetDamageType(c, v, DamageGroup::Energy);
-    const std::string p = GetDamageType(c, v, DamageGroup::Projectile);
-    return ItemNames{{{
-                         {Slot::DualHeavyCannons, e + "Dual Heavy Cannons"},
-                         {Slot::DualCannons, e + "Dual Cannons"},
-                         {Slot::DualBeamBanks, "Dual " + e + "Beam Bank"},
-                         {Slot::Cannons, e + "Cannon"},
-                         {Slot::ForwardBeamArrays, e + "Beam Array"},
-                         {Slot::Turrets, e + "Turret"},
-                         {Slot::ForwardTorpedoes, p + "Torpedo Launcher"},
-                         {Slot::ShuttleBeamArrays, "Shuttle " + e + "Beam Array"},
-                     }},
-                     {{
-                         {Slot::RearBeamArrays, e + "Beam Array"},
-                         {Slot::Turrets, e + "Turret"},
-                         {Slot::RearTorpedoes, p + "Torpedo Launcher"},
-                         {Slot::Mines, p + "Mine Launcher"},
-                     }}};
+// In the order a port's text is tried.
+constexpr ItemName kForwardNames[8] = {
+    {Slot::DualHeavyCannons, "", DamageGroup::Energy, "Dual Heavy Cannons"},
+    {Slot::DualCannons, "", DamageGroup::Energy, "Dual Cannons"},
+    {Slot::DualBeamBanks, "Dual ", DamageGroup::Energy, "Beam Bank"},
+    {Slot::Cannons, "", DamageGroup::Energy, "Cannon"},
+    {Slot::ForwardBeamArrays, "", DamageGroup::Energy, "Beam Array"},
+    {Slot::Turrets, "", DamageGroup::Energy, "Turret"},
+    {Slot::ForwardTorpedoes, "", DamageGroup::Projectile, "Torpedo Launcher"},
+    {Slot::ShuttleBeamArrays, "Shuttle ", DamageGroup::Energy, "Beam Array"},
+};
+constexpr ItemName kRearNames[4] = {
+    {Slot::RearBeamArrays, "", DamageGroup::Energy, "Beam Array"},
+    {Slot::Turrets, "", DamageGroup::Energy, "Turret"},
+    {Slot::RearTorpedoes, "", DamageGroup::Projectile, "Torpedo Launcher"},
+    {Slot::Mines, "", DamageGroup::Projectile, "Mine Launcher"},
+};
+
+// The vessel's two type words, read once per count.
+struct TypeWords {
+    std::string_view energy;
+    std::string_view projectile;
+};
+
+bool IsName(std::string_view text, const ItemName& name, const TypeWords& words) {
+    const std::string_view type = name.type == DamageGroup::Energy ? words.energy : words.projectile;
+    if (text.size() != name.head.size() + type.size() + name.tail.size()) return false;
+    return text.starts_with(name.head) && text.substr(name.head.size()).starts_with(type) && text.ends_with(name.tail);
 }
 
-template <std::size_t N>
-const Slot* SlotOf(const std::string& text, const std::array<std::pair<Slot, std::string>, N>& order) {
-    for (const auto& [slot, name] : order)
-        if (text == name) return &slot;
+template <std::size_t N> const Slot* SlotOf(std::string_view text, const ItemName (&order)[N], const TypeWords& words) {
+    for (const ItemName& name : order)
+        if (IsName(text, name, words)) return &name.slot;
     return nullptr;
 }
 
@@ -56,16 +65,16 @@ void CountWeapons(Calculator& c) {
         for (Vessel v = 1; v <= 2; ++v)
             s.WeaponCount[slot][v] = 0;
 
-    const ItemNames alpha = NamesOf(c, 1);
-    const ItemNames omega = NamesOf(c, 2);
+    const TypeWords alpha{GetDamageType(c, 1, DamageGroup::Energy), GetDamageType(c, 1, DamageGroup::Projectile)};
+    const TypeWords omega{GetDamageType(c, 2, DamageGroup::Energy), GetDamageType(c, 2, DamageGroup::Projectile)};
     auto add = [&s](const Slot* slot, Vessel v) {
         if (slot) ++s.WeaponCount[*slot][v];
     };
     for (int i = 1; i <= 4; ++i) {
-        add(SlotOf(c.main.Forward[i].text(), alpha.forward), 1);
-        add(SlotOf(c.main.CForward[i].text(), omega.forward), 2);
-        add(SlotOf(c.main.Rear[i].text(), alpha.rear), 1);
-        add(SlotOf(c.main.CRear[i].text(), omega.rear), 2);
+        add(SlotOf(c.main.Forward[i].text(), kForwardNames, alpha), 1);
+        add(SlotOf(c.main.CForward[i].text(), kForwardNames, omega), 2);
+        add(SlotOf(c.main.Rear[i].text(), kRearNames, alpha), 1);
+        add(SlotOf(c.main.CRear[i].text(), kRearNames, omega), 2);
     }
 }
 

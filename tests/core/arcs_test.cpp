@@ -145,7 +145,7 @@ TEST(FiringArcs, EightWeaponsWithDualCannons) {
 
 TEST(FiringArcs, TorpedoesAloneUseTheFrontBurst) {
     Program c;
-    c.main.Forward[1].setText(GetDamageType(c, 1, DamageGroup::Projectile) + "Torpedo Launcher");
+    c.main.Forward[1].setText(std::string(GetDamageType(c, 1, DamageGroup::Projectile)) + "Torpedo Launcher");
     CalculateFiringArcs(c);
     for (int i = 0; i <= 13; ++i)
         EXPECT_EQ(c.state.ArcShown[i], i == 12) << i;
