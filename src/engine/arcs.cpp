@@ -3,7 +3,6 @@
 #include "engine/burst.h"
 #include "engine/counting.h"
 #include "engine/dps.h"
-#include "engine/power.h"
 
 namespace vantorel {
 
@@ -69,23 +68,18 @@ void DecideArcsShown(Calculator& c) {
     }
 }
 
-void WorkOutBursts(Calculator& c, Vessel v) {
+void WorkOutBursts(Calculator& c, const VesselFactors& f, Vessel v) {
     CalculatorState& s = c.state;
-    s.ArcDPS[6][v] = CalculateBurst(c, FrontBurstCounts(s, v), v);
-    s.ArcDPS[7][v] = CalculateBurst(c, RearBurstCounts(s, v), v);
+    s.ArcDPS[6][v] = CalculateBurst(c, f, FrontBurstCounts(s, v), v);
+    s.ArcDPS[7][v] = CalculateBurst(c, f, RearBurstCounts(s, v), v);
     if (s.ArcDPS[6][v] > 0) s.ArcShown[12] = true;
     if (s.ArcDPS[7][v] > 0) s.ArcShown[13] = true;
 }
 
-void WorkOutRows(Calculator& c, Vessel v) {
+void WorkOutRows(Calculator& c, const VesselFactors& f, Vessel v) {
     CalculatorState& s = c.state;
-    const int distance = GetRange(c, v);
-    // Nothing that the factors or the power read changes while the rows are
-    // worked out, so both are read once for all six rows.
-    const VesselFactors factors = FactorsOf(c, v);
-    const int power = GetPowerLevel(c, v, Bonus::With);
     for (int row = 0; row <= 5; ++row)
-        s.ArcDPS[row][v] = CalculateDPS(c, factors, {RowCounts(s, v, row), power, distance}, v, SkillEffect::Counted);
+        s.ArcDPS[row][v] = CalculateDPS(c, f, {RowCounts(s, v, row), f.power, f.distance}, v, SkillEffect::Counted);
 }
 
 } // namespace
@@ -94,11 +88,18 @@ void CalculateFiringArcs(Calculator& c) {
     const bool comparing = c.state.Comparing != 0;
     CountWeapons(c);
     DecideArcsShown(c);
-    WorkOutBursts(c, 1);
-    if (comparing) WorkOutBursts(c, 2);
+    // The factors read the settings, skills, power and distance of a vessel,
+    // which nothing below changes: showing the arcs only shows and hides
+    // boxes and rebuilds the shuttle rank lists, which no factor reads. So
+    // they are read once for the bursts and all six rows.
+    PerVessel<VesselFactors> factors;
+    factors[1] = FactorsOf(c, 1);
+    if (comparing) factors[2] = FactorsOf(c, 2);
+    WorkOutBursts(c, factors[1], 1);
+    if (comparing) WorkOutBursts(c, factors[2], 2);
     if (c.results.showArcs) c.results.showArcs(c);
-    WorkOutRows(c, 1);
-    if (comparing) WorkOutRows(c, 2);
+    WorkOutRows(c, factors[1], 1);
+    if (comparing) WorkOutRows(c, factors[2], 2);
     if (c.results.showResults) c.results.showResults(c);
 }
 

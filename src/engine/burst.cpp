@@ -45,16 +45,14 @@ int OverloadWeapon(const BurstCounts& n) {
 }
 
 // Overload term before the last rounding: the plain DPS of that one weapon.
-float OverloadTerm(Calculator& c, int weapon, Vessel v) {
-    const int power = GetPowerLevel(c, v, Bonus::With);
-    const int distance = GetRange(c, v);
+float OverloadTerm(Calculator& c, const VesselFactors& f, int weapon, Vessel v) {
     FiringSet one;
     one.weapons.dualBeamBanks = weapon == 1 ? 1 : 0;
     one.weapons.beamArrays = weapon == 2 ? 1 : 0;
     one.weapons.shuttleBeamArrays = weapon == 3 ? 1 : 0;
-    one.power = power;
-    one.distance = distance;
-    const float dps = CalculateDPS(c, one, v, SkillEffect::Ignored);
+    one.power = f.power;
+    one.distance = f.distance;
+    const float dps = CalculateDPS(c, f, one, v, SkillEffect::Ignored);
     const CalculatorState& s = c.state;
     const float factor = kOverloadFactor[std::clamp<int>(s.BeamOverload[v], 0, 3)];
     // Applied a second time on purpose: the weapon's DPS holds both already.
@@ -110,10 +108,12 @@ float GetTorpedoSkill(const Calculator& c, Vessel v) {
     return 1.0f;
 }
 
-float CalculateBurst(Calculator& c, const BurstCounts& n, Vessel v) {
+float CalculateBurst(Calculator& c, const BurstCounts& n, Vessel v) { return CalculateBurst(c, FactorsOf(c, v), n, v); }
+
+float CalculateBurst(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v) {
     const CalculatorState& s = c.state;
     float sum = 0.0f;
-    const float critical = CriticalMultiplier(c, v, Severity::Plain, 0.0f, 0.0f);
+    const float critical = f.critical;
 
     if (n.torpedoes > 0) {
         const float t = TorpedoSkillOrOne(c, v);
@@ -128,14 +128,18 @@ float CalculateBurst(Calculator& c, const BurstCounts& n, Vessel v) {
     if (n.mines > 0) sum += MineTerm(c, critical, v);
     if (s.BeamOverload[v] > 0) {
         const int weapon = OverloadWeapon(n);
-        if (weapon != 0) sum += OverloadTerm(c, weapon, v);
+        if (weapon != 0) sum += OverloadTerm(c, f, weapon, v);
     }
     return Round(sum, 3);
 }
 
 std::string BurstToolTip(Calculator& c, const BurstCounts& n, Vessel v) {
+    return BurstToolTip(c, FactorsOf(c, v), n, v);
+}
+
+std::string BurstToolTip(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v) {
     const CalculatorState& s = c.state;
-    const float critical = CriticalMultiplier(c, v, Severity::Plain, 0.0f, 0.0f);
+    const float critical = f.critical;
     std::string text;
     auto append = [&text](const std::string& part) {
         if (!text.empty()) text += ", ";
@@ -190,7 +194,7 @@ std::string BurstToolTip(Calculator& c, const BurstCounts& n, Vessel v) {
         static const char* const kNames[4] = {"", "Dual Beam Bank Overload", "Beam Array Overload",
                                               "Shuttle Beam Array Overload"};
         if (weapon != 0)
-            append(kNames[weapon] + SignedText(overload) + ":" + SignedText(Round(OverloadTerm(c, weapon, v), 3)));
+            append(kNames[weapon] + SignedText(overload) + ":" + SignedText(Round(OverloadTerm(c, f, weapon, v), 3)));
     }
     return text;
 }

@@ -4,6 +4,7 @@
 // Beam Overload, after skills, critical hits, resistance and accuracy.
 
 #include "engine/counting.h"
+#include "engine/dps.h"
 #include "engine/records.h"
 
 #include <string>
@@ -12,8 +13,11 @@ namespace vantorel {
 
 // Rounded to three decimals.
 float CalculateBurst(Calculator& c, const BurstCounts& n, Vessel v);
+// The same with the vessel's factors worked out already.
+float CalculateBurst(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v);
 // The burst box's tooltip: one entry for each kind that fires.
 std::string BurstToolTip(Calculator& c, const BurstCounts& n, Vessel v);
+std::string BurstToolTip(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v);
 // The factor of the activated torpedo skill on the vessel's torpedo type.
 float GetTorpedoSkill(const Calculator& c, Vessel v);
 

@@ -4,6 +4,7 @@
 #include "engine/dpw.h"
 #include "engine/marks.h"
 #include "engine/numbers.h"
+#include "engine/power.h"
 #include "engine/selection.h"
 
 #include <algorithm>
@@ -100,7 +101,7 @@ float SkillPoints(int table, int level) {
     return kSkillPoints[std::min(table, 3) - 1][level - 1];
 }
 
-float CriticalMultiplier(const Calculator& c, Vessel v, Severity boost, float chance, float severity) {
+CriticalRates CriticalRatesOf(const Calculator& c, Vessel v) {
     const VesselSettings& set = c.settings[v];
     float ch;
     float sev;
@@ -118,16 +119,22 @@ float CriticalMultiplier(const Calculator& c, Vessel v, Severity boost, float ch
         ch = 0.045f;
         sev = 0.75f;
     }
-    if (boost == Severity::Boosted) sev += 0.1f;
+    // Every bonus below is added to both severities in the same order.
+    float plain = sev;
+    float boosted = sev + 0.1f;
+    auto addSeverity = [&plain, &boosted](float amount) {
+        plain += amount;
+        boosted += amount;
+    };
 
     const float excess = c.state.ExcessAccuracy[v];
     ch += excess / 1000.0f;
-    sev += excess / 100.0f;
+    addSeverity(excess / 100.0f);
 
     if (!RelativeMode(c)) {
         for (int i = 1; i <= 3; ++i) {
             const int mod = set.WeaponMod[i].index();
-            if (mod == 2) sev += 0.2f;
+            if (mod == 2) addSeverity(0.2f);
             if (mod == 3) ch += 0.02f;
         }
     }
@@ -138,23 +145,30 @@ float CriticalMultiplier(const Calculator& c, Vessel v, Severity boost, float ch
         switch (alpha) {
         case 1:
             ch += 0.012f + 0.00012f * skill;
-            sev += 0.12f + 0.0012f * skill;
+            addSeverity(0.12f + 0.0012f * skill);
             break;
         case 2:
             ch += 0.016f + 0.00016f * skill;
-            sev += 0.16f + 0.0016f * skill;
+            addSeverity(0.16f + 0.0016f * skill);
             break;
         default:
             ch += 0.02f + 0.0002f * skill;
-            sev += 0.2f + 0.002f * skill;
+            addSeverity(0.2f + 0.002f * skill);
             break;
         }
     }
+    return {ch, plain, boosted, vectors == kNoCriticalLevel};
+}
 
-    ch += chance;
-    sev += severity;
-    if (vectors == kNoCriticalLevel) return 1.0f;
+float CriticalMultiplier(const CriticalRates& rates, Severity boost, float chance, float severity) {
+    if (rates.off) return 1.0f;
+    const float ch = rates.chance + chance;
+    const float sev = (boost == Severity::Boosted ? rates.boostedSeverity : rates.severity) + severity;
     return ch * sev + 1.0f;
+}
+
+float CriticalMultiplier(const Calculator& c, Vessel v, Severity boost, float chance, float severity) {
+    return CriticalMultiplier(CriticalRatesOf(c, v), boost, chance, severity);
 }
 
 int GetRange(const Calculator& c, Vessel v) {
@@ -173,26 +187,16 @@ VesselFactors FactorsOf(const Calculator& c, Vessel v) {
     f.beamSkill = BeamSkillModifier(c, v);
     f.cannonSkill = CannonSkillModifier(c, v, CannonMount::Fixed);
     f.turretSkill = CannonSkillModifier(c, v, CannonMount::Turret);
-    f.critical = CriticalMultiplier(c, v, Severity::Plain, 0.0f, 0.0f);
-    f.criticalBoosted = CriticalMultiplier(c, v, Severity::Boosted, 0.0f, 0.0f);
+    f.rates = CriticalRatesOf(c, v);
+    f.critical = CriticalMultiplier(f.rates, Severity::Plain, 0.0f, 0.0f);
+    f.criticalBoosted = CriticalMultiplier(f.rates, Severity::Boosted, 0.0f, 0.0f);
+    f.power = GetPowerLevel(c, v, Bonus::With);
+    f.distance = GetRange(c, v);
     return f;
 }
 
 float CalculateDPS(Calculator& c, const FiringSet& set, Vessel v, SkillEffect skills) {
-    // Only the factors that a weapon in the set asks for: a lone overloading
-    // beam, the most frequent single call, needs neither cannon factor.
-    const WeaponCounts& n = set.weapons;
-    VesselFactors f;
-    if (skills == SkillEffect::Counted) {
-        if (n.dualBeamBanks + n.beamArrays + n.shuttleBeamArrays > 0) f.beamSkill = BeamSkillModifier(c, v);
-        if (n.dualHeavyCannons + n.dualCannons + n.cannons > 0)
-            f.cannonSkill = CannonSkillModifier(c, v, CannonMount::Fixed);
-        if (n.turrets > 0) f.turretSkill = CannonSkillModifier(c, v, CannonMount::Turret);
-    }
-    if (n.dualCannons + n.dualBeamBanks + n.cannons + n.beamArrays + n.turrets + n.shuttleBeamArrays > 0)
-        f.critical = CriticalMultiplier(c, v, Severity::Plain, 0.0f, 0.0f);
-    if (n.dualHeavyCannons > 0) f.criticalBoosted = CriticalMultiplier(c, v, Severity::Boosted, 0.0f, 0.0f);
-    return CalculateDPS(c, f, set, v, skills);
+    return CalculateDPS(c, FactorsOf(c, v), set, v, skills);
 }
 
 WeaponTerms TermsOf(const Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v, SkillEffect skills) {
@@ -207,7 +211,7 @@ WeaponTerms TermsOf(const Calculator& c, const VesselFactors& f, const FiringSet
     const float cannonMod = c.state.CannonModifier[v];
     const float beamMod = c.state.BeamModifier[v];
     // A shuttle array is read as a Beam Array and scaled to its own damage.
-    const float shuttleMod = n.shuttleBeamArrays > 0 ? ShuttleArrayModifier(c, v, n.shuttleBeamArrays) : 0.0f;
+    const float shuttleMod = n.shuttleBeamArrays > 0 ? ShuttleArrayModifier(c, f.rates, v, n.shuttleBeamArrays) : 0.0f;
     return {{
         {n.dualHeavyCannons, 1, false, cannonRange, cannonSkill, cannonMod, true},
         {n.dualCannons, 2, false, cannonRange, cannonSkill, cannonMod, false},

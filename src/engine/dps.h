@@ -24,21 +24,36 @@ float SkillPoints(int table, int level);
 
 // Dual Heavy Cannons hit with a boosted severity.
 enum class Severity { Plain, Boosted };
+// The vessel's own critical chance and severity, read from its settings and
+// skills once: every DPS, burst and tooltip of a recalculation multiplies by
+// them. The boost is added to the severity before the other bonuses, so the
+// boosted severity is summed apart from the plain one, not derived from it.
+struct CriticalRates {
+    float chance = 0.0f;
+    float severity = 0.0f;        // Severity::Plain
+    float boostedSeverity = 0.0f; // Severity::Boosted
+    bool off = false;             // the Attack Vectors level that switches critical hits off
+};
+CriticalRates CriticalRatesOf(const Calculator& c, Vessel v);
 // The critical factor, chance × severity + 1, with `chance` and `severity`
 // added on top of the vessel's own.
+float CriticalMultiplier(const CriticalRates& rates, Severity boost, float chance, float severity);
 float CriticalMultiplier(const Calculator& c, Vessel v, Severity boost, float chance, float severity);
 // The distance index 0..9 of the vessel's selection.
 int GetRange(const Calculator& c, Vessel v);
 
 // The factors of the formula that depend on the vessel and not on its
 // weapons. A recalculation works them out once per vessel and hands them to
-// every row's DPS and tooltip; they cannot change in between.
+// every burst, row DPS and tooltip; they cannot change in between.
 struct VesselFactors {
     float beamSkill = 1.0f;
     float cannonSkill = 1.0f;
     float turretSkill = 1.0f;
+    CriticalRates rates;          // what a partial critical bonus adds to
     float critical = 1.0f;        // CriticalMultiplier(v, Plain, 0, 0)
     float criticalBoosted = 1.0f; // CriticalMultiplier(v, Boosted, 0, 0)
+    int power = 100;              // GetPowerLevel(v, With)
+    int distance = 0;             // GetRange(v)
 };
 VesselFactors FactorsOf(const Calculator& c, Vessel v);
 

@@ -41,12 +41,10 @@ void ShowSide(Indexed<Picture, 0, 11>& arcs, Indexed<Label, 0, 13>& labels, Inde
 void ShowRows(Calculator& c, Vessel v) {
     const CalculatorState& s = c.state;
     MainSelection& m = c.main;
-    const int distance = GetRange(c, v);
     const VesselFactors factors = FactorsOf(c, v);
-    const int power = GetPowerLevel(c, v, Bonus::With);
     std::string tips[6];
     for (int row = 0; row <= 5; ++row)
-        tips[row] = CalculateToolTip(c, factors, {RowCounts(s, v, row), power, distance}, v);
+        tips[row] = CalculateToolTip(c, factors, {RowCounts(s, v, row), factors.power, factors.distance}, v);
 
     Indexed<Label, 0, 13>& boxes = v == 1 ? m.FiringArcDPS : m.CFiringArcDPS;
     for (int i = 0; i <= 11; ++i) {
@@ -60,9 +58,9 @@ void ShowRows(Calculator& c, Vessel v) {
         }
     }
     boxes[12].setCaption(PlainText(s.ArcDPS[6][v]));
-    boxes[12].setTooltip(BurstToolTip(c, FrontBurstCounts(s, v), v));
+    boxes[12].setTooltip(BurstToolTip(c, factors, FrontBurstCounts(s, v), v));
     boxes[13].setCaption(PlainText(s.ArcDPS[7][v]));
-    boxes[13].setTooltip(BurstToolTip(c, RearBurstCounts(s, v), v));
+    boxes[13].setTooltip(BurstToolTip(c, factors, RearBurstCounts(s, v), v));
 }
 
 std::string ShuttleRankName(int faction, int level) {
