@@ -3,7 +3,6 @@
 #include "engine/dps.h"
 #include "engine/modifiers.h"
 #include "engine/numbers.h"
-#include "engine/power.h"
 #include "engine/selection.h"
 
 #include <algorithm>
@@ -73,7 +72,16 @@ float TorpedoSkillOrOne(const Calculator& c, Vessel v) {
     return (s.TorpedoHighYield[v] > 0 || s.TorpedoSpread[v] > 0) ? GetTorpedoSkill(c, v) : 1.0f;
 }
 
-std::string TargetsText(int n) { return n == 1 ? std::string(" (1 Target):") : " (" + PlainText(n) + " Targets):"; }
+// " (1 Target):", " (3 Targets):".
+void AppendTargets(std::string& out, int n) {
+    if (n == 1) {
+        out += " (1 Target):";
+        return;
+    }
+    out += " (";
+    AppendPlainText(out, n);
+    out += " Targets):";
+}
 
 } // namespace
 
@@ -138,65 +146,113 @@ std::string BurstToolTip(Calculator& c, const BurstCounts& n, Vessel v) {
 }
 
 std::string BurstToolTip(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v) {
+    std::string text;
+    WriteBurstToolTip(text, BurstToolTipInputsOf(c, f, n, v));
+    return text;
+}
+
+BurstToolTipInputs BurstToolTipInputsOf(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v) {
     const CalculatorState& s = c.state;
     const float critical = f.critical;
-    std::string text;
-    auto append = [&text](const std::string& part) {
-        if (!text.empty()) text += ", ";
-        text += part;
-    };
+    BurstToolTipInputs in;
 
     if (n.torpedoes > 0) {
-        const std::string prefix(GetDamageType(c, v, DamageGroup::Projectile));
-        const bool plasma = TorpedoType(c, v) == "Plasma";
+        in.torpedoes = true;
+        in.typeWord = GetDamageType(c, v, DamageGroup::Projectile);
+        in.plasma = TorpedoType(c, v) == "Plasma";
         const float t = TorpedoSkillOrOne(c, v);
         float d = RelativeMode(c) ? Round(BaseProjectileDamage(c, v) * t * critical, 3)
                                   : Round(t * s.TorpedoDamage[v] * critical, 3);
         d = d * s.ResistanceFactor[v] * s.AccuracyFactor[v];
-        const int highYield = s.TorpedoHighYield[v];
-        const int spread = s.TorpedoSpread[v];
-        // The targets that a spread can reach.
-        const int spreadTargets = std::min<int>(s.SkillTargets[v], spread + 1);
-
-        std::string part;
-        if (plasma && highYield > 0) {
-            const int n = s.SkillTargets[v];
-            d = static_cast<float>(n) * d * s.ResistanceFactor[v] * s.AccuracyFactor[v];
-            const float burn = Round(d * kHeavyBurnShare, 3);
-            part = "Heavy Plasma Torpedo" + SignedText(highYield) + TargetsText(n) + SignedText(d);
-            part += ", Plasma Burn" + TargetsText(n) + SignedText(burn);
-        } else {
-            if (highYield > 0)
-                part = prefix + "Torpedo Salvo" + SignedText(highYield) + ":";
-            else if (spread > 0)
-                part = prefix + "Torpedo Spread" + SignedText(spread) + TargetsText(spreadTargets);
-            else
-                part = prefix + "Torpedo:";
-            part += SignedText(d);
-            if (plasma) {
-                const float burn = Round(d * kBurnShare, 3) * s.ResistanceFactor[v] * s.AccuracyFactor[v];
-                part += ", Plasma Burn (33% Chance):" + SignedText(Round(burn / kBurnChance, 3)) + " (" +
-                        PlainText(burn) + ")";
-            }
+        in.highYield = s.TorpedoHighYield[v];
+        in.spread = s.TorpedoSpread[v];
+        in.targets = s.SkillTargets[v];
+        if (in.plasma && in.highYield > 0) {
+            d = static_cast<float>(in.targets) * d * s.ResistanceFactor[v] * s.AccuracyFactor[v];
+            in.burn = Round(d * kHeavyBurnShare, 3);
+        } else if (in.plasma) {
+            in.burn = Round(d * kBurnShare, 3) * s.ResistanceFactor[v] * s.AccuracyFactor[v];
         }
-        append(part);
+        in.damage = d;
     }
 
     if (n.mines > 0) {
-        const int level = s.MineSkill[v];
-        const std::string name = level > 0 ? "Mine Dispersal Pattern" + SignedText(level) + ":" : "Mine Cluster:";
-        append(name + SignedText(MineTerm(c, critical, v)));
+        in.mines = true;
+        in.mineLevel = s.MineSkill[v];
+        in.mineDamage = MineTerm(c, critical, v);
     }
 
     const int overload = s.BeamOverload[v];
-    if (overload > 0) {
-        const int weapon = OverloadWeapon(n);
-        static const char* const kNames[4] = {"", "Dual Beam Bank Overload", "Beam Array Overload",
-                                              "Shuttle Beam Array Overload"};
-        if (weapon != 0)
-            append(kNames[weapon] + SignedText(overload) + ":" + SignedText(Round(OverloadTerm(c, f, weapon, v), 3)));
+    const int weapon = overload > 0 ? OverloadWeapon(n) : 0;
+    if (weapon != 0) {
+        in.overloadWeapon = weapon;
+        in.overloadLevel = overload;
+        in.overloadDamage = Round(OverloadTerm(c, f, weapon, v), 3);
     }
-    return text;
+    return in;
+}
+
+void WriteBurstToolTip(std::string& out, const BurstToolTipInputs& in) {
+    auto nextEntry = [&out] {
+        if (!out.empty()) out += ", ";
+    };
+
+    if (in.torpedoes) {
+        nextEntry();
+        if (in.plasma && in.highYield > 0) {
+            out += "Heavy Plasma Torpedo";
+            AppendSignedText(out, in.highYield);
+            AppendTargets(out, in.targets);
+            AppendSignedText(out, in.damage);
+            out += ", Plasma Burn";
+            AppendTargets(out, in.targets);
+            AppendSignedText(out, in.burn);
+        } else {
+            out += in.typeWord;
+            if (in.highYield > 0) {
+                out += "Torpedo Salvo";
+                AppendSignedText(out, in.highYield);
+                out += ':';
+            } else if (in.spread > 0) {
+                out += "Torpedo Spread";
+                AppendSignedText(out, in.spread);
+                // The targets that a spread can reach.
+                AppendTargets(out, std::min(in.targets, in.spread + 1));
+            } else {
+                out += "Torpedo:";
+            }
+            AppendSignedText(out, in.damage);
+            if (in.plasma) {
+                out += ", Plasma Burn (33% Chance):";
+                AppendSignedText(out, Round(in.burn / kBurnChance, 3));
+                out += " (";
+                AppendPlainText(out, in.burn);
+                out += ')';
+            }
+        }
+    }
+
+    if (in.mines) {
+        nextEntry();
+        if (in.mineLevel > 0) {
+            out += "Mine Dispersal Pattern";
+            AppendSignedText(out, in.mineLevel);
+            out += ':';
+        } else {
+            out += "Mine Cluster:";
+        }
+        AppendSignedText(out, in.mineDamage);
+    }
+
+    if (in.overloadWeapon != 0) {
+        static constexpr std::string_view kNames[4] = {"", "Dual Beam Bank Overload", "Beam Array Overload",
+                                                       "Shuttle Beam Array Overload"};
+        nextEntry();
+        out += kNames[in.overloadWeapon];
+        AppendSignedText(out, in.overloadLevel);
+        out += ':';
+        AppendSignedText(out, in.overloadDamage);
+    }
 }
 
 } // namespace vantorel

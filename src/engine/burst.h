@@ -18,6 +18,10 @@ float CalculateBurst(Calculator& c, const VesselFactors& f, const BurstCounts& n
 // The burst box's tooltip: one entry for each kind that fires.
 std::string BurstToolTip(Calculator& c, const BurstCounts& n, Vessel v);
 std::string BurstToolTip(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v);
+// The two steps of it: what the tooltip shows, and its text written from
+// that, appended to `out`, an empty text.
+BurstToolTipInputs BurstToolTipInputsOf(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v);
+void WriteBurstToolTip(std::string& out, const BurstToolTipInputs& in);
 // The factor of the activated torpedo skill on the vessel's torpedo type.
 float GetTorpedoSkill(const Calculator& c, Vessel v);
 

@@ -44,8 +44,12 @@ std::string SignedText(double x);
 std::string SignedText(int x);
 
 // The same texts appended to `out`, for texts built of many numbers.
+void AppendPlainText(std::string& out, float x);
+void AppendPlainText(std::string& out, double x);
 void AppendPlainText(std::string& out, int x);
 void AppendSignedText(std::string& out, float x);
+void AppendSignedText(std::string& out, double x);
+void AppendSignedText(std::string& out, int x);
 
 // Shortest decimal that reads back to the same single (for JSON output).
 std::string ShortestText(float x);

@@ -12,6 +12,7 @@
 // their modules; the values here are those the engine itself starts from.
 
 #include "engine/fields.h"
+#include "engine/kept.h"
 
 #include <cstdint>
 #include <random>
@@ -214,6 +215,7 @@ struct Calculator {
     CalculatorState state;
     Random random;
     ResultsView results;
+    KeptTexts kept;
 
     // Work area of the primary screen in twips, given by the front end.
     int workLeft = 0, workTop = 0, workWidth = 19200, workHeight = 15600;

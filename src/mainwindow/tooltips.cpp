@@ -5,6 +5,7 @@
 #include "engine/selection.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace vantorel {
 
@@ -32,22 +33,43 @@ float EntryValue(const DPW& dpw, int count, float range, float skill, float modi
     return 0.0f;
 }
 
-std::string CannonSkillPart(const CalculatorState& s, Vessel v) {
-    if (s.RapidFire[v] > 0) return " (Rapid Fire" + SignedText(static_cast<int>(s.RapidFire[v])) + "):";
-    if (s.ScatterVolley[v] > 0) {
-        const std::string head = " (Scatter Volley" + SignedText(static_cast<int>(s.ScatterVolley[v]));
-        if (s.SkillTargets[v] < 2) return head + ", 1 Target):";
-        // A volley reaches three targets at most.
-        return head + "," + SignedText(std::min<int>(s.SkillTargets[v], 3)) + " Targets):";
+// " (Rapid Fire 2):", " (Scatter Volley 1, 2 Targets):" or ":".
+void AppendCannonSkill(std::string& out, const ArcToolTipInputs& in) {
+    if (in.rapidFire > 0) {
+        out += " (Rapid Fire";
+        AppendSignedText(out, static_cast<int>(in.rapidFire));
+        out += "):";
+    } else if (in.scatterVolley > 0) {
+        out += " (Scatter Volley";
+        AppendSignedText(out, static_cast<int>(in.scatterVolley));
+        if (in.targets < 2) {
+            out += ", 1 Target):";
+        } else {
+            // A volley reaches three targets at most.
+            out += ',';
+            AppendSignedText(out, std::min<int>(in.targets, 3));
+            out += " Targets):";
+        }
+    } else {
+        out += ':';
     }
-    return ":";
 }
 
-std::string BeamSkillPart(const CalculatorState& s, Vessel v) {
-    if (s.BeamSkill[v] == 0) return ":";
-    const std::string head = " (Fire At Will" + SignedText(static_cast<int>(s.BeamSkill[v]));
-    if (s.SkillTargets[v] < 2) return head + ", 1 Target):";
-    return head + "," + SignedText(static_cast<int>(s.SkillTargets[v])) + " Targets):";
+// " (Fire At Will 1, 1 Target):" or ":".
+void AppendBeamSkill(std::string& out, const ArcToolTipInputs& in) {
+    if (in.beamSkill == 0) {
+        out += ':';
+        return;
+    }
+    out += " (Fire At Will";
+    AppendSignedText(out, static_cast<int>(in.beamSkill));
+    if (in.targets < 2) {
+        out += ", 1 Target):";
+        return;
+    }
+    out += ',';
+    AppendSignedText(out, static_cast<int>(in.targets));
+    out += " Targets):";
 }
 
 } // namespace
@@ -57,6 +79,12 @@ std::string CalculateToolTip(Calculator& c, const FiringSet& set, Vessel v) {
 }
 
 std::string CalculateToolTip(Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v) {
+    std::string text;
+    WriteToolTip(text, ToolTipInputsOf(c, f, set, v));
+    return text;
+}
+
+ArcToolTipInputs ToolTipInputsOf(const Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v) {
     const CalculatorState& s = c.state;
     float boosted = f.criticalBoosted;
     float plain = f.critical;
@@ -66,40 +94,51 @@ std::string CalculateToolTip(Calculator& c, const VesselFactors& f, const Firing
         boosted += 0.03375f;
         plain += 0.03375f;
     }
-    // The words of the kinds, in the order of the terms; dual cannons of
-    // both kinds are named in the plural even alone.
-    struct Word {
-        const char* text;
-        bool plural;
-    };
-    static constexpr Word kWords[7] = {
-        {" Dual Heavy Cannons", false}, {" Dual Cannons", false}, {" Dual Beam Bank", true},    {" Cannon", true},
-        {" Beam Array", true},          {" Turret", true},        {" Shuttle Beam Array", true}};
     const WeaponTerms terms = TermsOf(c, f, set, v, SkillEffect::Counted);
     const int total = set.weapons.total();
     const int power = set.power;
 
-    std::string text;
-    std::string cannonPart;
-    std::string beamPart;
+    ArcToolTipInputs in;
     for (std::size_t i = 0; i < terms.size(); ++i) {
         const WeaponTerm& k = terms[i];
         if (k.count <= 0) continue;
-        const float value = EntryValue(DPWCalc(s, power, k.row, total), k.count, k.range, k.skill, k.modifier,
-                                       k.boosted ? boosted : plain, s.ResistanceFactor[v], s.AccuracyFactor[v]);
-        std::string& skillPart = k.beam ? beamPart : cannonPart;
-        if (skillPart.empty()) skillPart = k.beam ? BeamSkillPart(s, v) : CannonSkillPart(s, v);
-        if (text.empty())
-            text.reserve(192);
-        else
-            text += ", ";
-        AppendPlainText(text, k.count);
-        text += kWords[i].text;
-        if (kWords[i].plural && k.count > 1) text += 's';
-        text += skillPart;
-        AppendSignedText(text, value);
+        in.counts[i] = k.count;
+        in.values[i] = EntryValue(DPWCalc(s, power, k.row, total), k.count, k.range, k.skill, k.modifier,
+                                  k.boosted ? boosted : plain, s.ResistanceFactor[v], s.AccuracyFactor[v]);
     }
-    return text;
+    in.beamSkill = s.BeamSkill[v];
+    in.rapidFire = s.RapidFire[v];
+    in.scatterVolley = s.ScatterVolley[v];
+    in.targets = s.SkillTargets[v];
+    return in;
+}
+
+void WriteToolTip(std::string& out, const ArcToolTipInputs& in) {
+    // The words of the kinds, in the order of the terms; dual cannons of
+    // both kinds are named in the plural even alone. Beams name Fire At
+    // Will, the others the cannon skills.
+    struct Word {
+        const char* text;
+        bool plural;
+        bool beam;
+    };
+    static constexpr Word kWords[7] = {{" Dual Heavy Cannons", false, false}, {" Dual Cannons", false, false},
+                                       {" Dual Beam Bank", true, true},       {" Cannon", true, false},
+                                       {" Beam Array", true, true},           {" Turret", true, false},
+                                       {" Shuttle Beam Array", true, true}};
+    for (std::size_t i = 0; i < std::size(kWords); ++i) {
+        const int count = in.counts[i];
+        if (count <= 0) continue;
+        if (!out.empty()) out += ", ";
+        AppendPlainText(out, count);
+        out += kWords[i].text;
+        if (kWords[i].plural && count > 1) out += 's';
+        if (kWords[i].beam)
+            AppendBeamSkill(out, in);
+        else
+            AppendCannonSkill(out, in);
+        AppendSignedText(out, in.values[i]);
+    }
 }
 
 } // namespace vantorel
