@@ -41,17 +41,18 @@ constexpr ItemName kRearNames[4] = {
 struct TypeWords {
     std::string_view energy;
     std::string_view projectile;
+    std::string_view of(DamageGroup group) const { return group == DamageGroup::Energy ? energy : projectile; }
 };
 
-bool IsName(std::string_view text, const ItemName& name, const TypeWords& words) {
-    const std::string_view type = name.type == DamageGroup::Energy ? words.energy : words.projectile;
-    if (text.size() != name.head.size() + type.size() + name.tail.size()) return false;
-    return text.starts_with(name.head) && text.substr(name.head.size()).starts_with(type) && text.ends_with(name.tail);
-}
-
+// Only names of the text's length are compared: most are told apart by it.
 template <std::size_t N> const Slot* SlotOf(std::string_view text, const ItemName (&order)[N], const TypeWords& words) {
-    for (const ItemName& name : order)
-        if (IsName(text, name, words)) return &name.slot;
+    for (const ItemName& name : order) {
+        const std::string_view type = words.of(name.type);
+        const std::size_t head = name.head.size();
+        if (text.size() != head + type.size() + name.tail.size()) continue;
+        if (text.starts_with(name.head) && text.compare(head, type.size(), type) == 0 && text.ends_with(name.tail))
+            return &name.slot;
+    }
     return nullptr;
 }
 
