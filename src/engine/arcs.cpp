@@ -78,8 +78,15 @@ void WorkOutBursts(Calculator& c, const VesselFactors& f, Vessel v) {
 
 void WorkOutRows(Calculator& c, const VesselFactors& f, Vessel v) {
     CalculatorState& s = c.state;
-    for (int row = 0; row <= 5; ++row)
-        s.ArcDPS[row][v] = CalculateDPS(c, f, {RowCounts(s, v, row), f.power, f.distance}, v, SkillEffect::Counted);
+    WeaponCounts counts[6];
+    for (int row = 0; row <= 5; ++row) {
+        counts[row] = RowCounts(s, v, row);
+        // A row of the same weapons as an earlier one has its DPS: a vessel
+        // with few kinds of weapon fires the same set in several arcs.
+        const int same = SameSetBefore(counts, row);
+        s.ArcDPS[row][v] = same < row ? s.ArcDPS[same][v]
+                                      : CalculateDPS(c, f, {counts[row], f.power, f.distance}, v, SkillEffect::Counted);
+    }
 }
 
 } // namespace
@@ -91,7 +98,7 @@ void CalculateFiringArcs(Calculator& c) {
     // The factors read the settings, skills, power and distance of a vessel,
     // which nothing below changes: showing the arcs only shows and hides
     // boxes and rebuilds the shuttle rank lists, which no factor reads. So
-    // they are read once for the bursts and all six rows.
+    // they are read once for the bursts, all six rows and their texts.
     PerVessel<VesselFactors> factors;
     factors[1] = FactorsOf(c, 1);
     if (comparing) factors[2] = FactorsOf(c, 2);
@@ -100,7 +107,7 @@ void CalculateFiringArcs(Calculator& c) {
     if (c.results.showArcs) c.results.showArcs(c);
     WorkOutRows(c, factors[1], 1);
     if (comparing) WorkOutRows(c, factors[2], 2);
-    if (c.results.showResults) c.results.showResults(c);
+    if (c.results.showResults) c.results.showResults(c, factors);
 }
 
 ArcValues ArcsOf(const CalculatorState& s, Vessel v) {

@@ -3,6 +3,7 @@
 
 #include "program/program.h"
 
+#include "engine/dps.h"
 #include "graph/graph.h"
 #include "mainwindow/compare.h"
 #include "mainwindow/events.h"
@@ -15,8 +16,8 @@ namespace vantorel {
 
 namespace {
 
-void ShowResults(Calculator& c) {
-    ShowArcResults(c);
+void ShowResults(Calculator& c, const PerVessel<VesselFactors>& factors) {
+    ShowArcResults(c, factors);
     GraphControl(c);
 }
 
