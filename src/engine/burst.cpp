@@ -26,14 +26,6 @@ constexpr float kOverloadFactor[4] = {0, 6.041f, 7.253f, 8.467f};
 
 float MineFactor(int level) { return level >= 0 && level <= 3 ? kMineFactor[level] : 1.0f; }
 
-// The torpedo type without its trailing blank: "Quantum", "Plasma", ...
-std::string_view TorpedoType(const Calculator& c, Vessel v) {
-    std::string_view type = GetDamageType(c, v, DamageGroup::Projectile);
-    while (!type.empty() && type.back() == ' ')
-        type.remove_suffix(1);
-    return type;
-}
-
 // The one weapon that overloads: the first present of dual beam bank, beam
 // array, shuttle beam array. 0 for none.
 int OverloadWeapon(const BurstCounts& n) {
@@ -67,11 +59,6 @@ float MineTerm(const Calculator& c, float critical, Vessel v) {
     return m * s.MineDamage[v] * critical * s.ResistanceFactor[v] * s.AccuracyFactor[v];
 }
 
-float TorpedoSkillOrOne(const Calculator& c, Vessel v) {
-    const CalculatorState& s = c.state;
-    return (s.TorpedoHighYield[v] > 0 || s.TorpedoSpread[v] > 0) ? GetTorpedoSkill(c, v) : 1.0f;
-}
-
 // " (1 Target):", " (3 Targets):".
 void AppendTargets(std::string& out, int n) {
     if (n == 1) {
@@ -85,37 +72,6 @@ void AppendTargets(std::string& out, int n) {
 
 } // namespace
 
-float GetTorpedoSkill(const Calculator& c, Vessel v) {
-    struct Row {
-        std::string_view type;
-        float highYield[3];
-        float spread[3];
-    };
-    static constexpr Row kRows[] = {
-        {"Quantum", {2.227f, 2.585f, 2.947f}, {1.893f, 2.198f, 2.506f}},
-        {"Photon", {2.167f, 2.565f, 2.97f}, {1.843f, 2.182f, 2.524f}},
-        {"Plasma", {2.594f, 3.0f, 3.405f}, {1.832f, 2.169f, 2.51f}},
-        {"Chroniton", {1.723f, 1.97f, 2.219f}, {1.446f, 1.674f, 1.886f}},
-        {"Transphasic", {1.723f, 1.97f, 2.219f}, {1.464f, 1.674f, 1.886f}},
-    };
-    const CalculatorState& s = c.state;
-    const std::string_view type = TorpedoType(c, v);
-    const Row* row = nullptr;
-    for (const Row& r : kRows)
-        if (r.type == type) row = &r;
-    // Tricobalt, or no type at all: no skill multiplies it.
-    if (row == nullptr) return 1.0f;
-
-    const int highYield = s.TorpedoHighYield[v];
-    if (highYield >= 1 && highYield <= 3) return row->highYield[highYield - 1];
-    const int spread = s.TorpedoSpread[v];
-    if (spread >= 1 && spread <= 3) {
-        const int targets = std::min<int>(s.SkillTargets[v], 3 * spread);
-        return row->spread[spread - 1] * static_cast<float>(targets);
-    }
-    return 1.0f;
-}
-
 float CalculateBurst(Calculator& c, const BurstCounts& n, Vessel v) { return CalculateBurst(c, FactorsOf(c, v), n, v); }
 
 float CalculateBurst(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v) {
@@ -124,14 +80,14 @@ float CalculateBurst(Calculator& c, const VesselFactors& f, const BurstCounts& n
     const float critical = f.critical;
 
     if (n.torpedoes > 0) {
-        const float t = TorpedoSkillOrOne(c, v);
-        float f = 1.0f;
-        if (TorpedoType(c, v) == "Plasma")
-            f = s.TorpedoHighYield[v] > 0 ? static_cast<float>(s.SkillTargets[v]) * kHeavyPlasmaBurn : kPlasmaBurn;
+        const float t = f.torpedoSkill;
+        float burn = 1.0f;
+        if (f.plasmaTorpedoes)
+            burn = s.TorpedoHighYield[v] > 0 ? static_cast<float>(s.SkillTargets[v]) * kHeavyPlasmaBurn : kPlasmaBurn;
         if (RelativeMode(c))
-            sum = BaseProjectileDamage(c, v) * critical * f * s.ResistanceFactor[v] * s.AccuracyFactor[v] * t;
+            sum = BaseProjectileDamage(c, v) * critical * burn * s.ResistanceFactor[v] * s.AccuracyFactor[v] * t;
         else
-            sum = t * s.TorpedoDamage[v] * critical * f * s.ResistanceFactor[v] * s.AccuracyFactor[v];
+            sum = t * s.TorpedoDamage[v] * critical * burn * s.ResistanceFactor[v] * s.AccuracyFactor[v];
     }
     if (n.mines > 0) sum += MineTerm(c, critical, v);
     if (s.BeamOverload[v] > 0) {
@@ -159,8 +115,8 @@ BurstToolTipInputs BurstToolTipInputsOf(Calculator& c, const VesselFactors& f, c
     if (n.torpedoes > 0) {
         in.torpedoes = true;
         in.typeWord = GetDamageType(c, v, DamageGroup::Projectile);
-        in.plasma = TorpedoType(c, v) == "Plasma";
-        const float t = TorpedoSkillOrOne(c, v);
+        in.plasma = f.plasmaTorpedoes;
+        const float t = f.torpedoSkill;
         float d = RelativeMode(c) ? Round(BaseProjectileDamage(c, v) * t * critical, 3)
                                   : Round(t * s.TorpedoDamage[v] * critical, 3);
         d = d * s.ResistanceFactor[v] * s.AccuracyFactor[v];

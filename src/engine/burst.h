@@ -22,7 +22,5 @@ std::string BurstToolTip(Calculator& c, const VesselFactors& f, const BurstCount
 // that, appended to `out`, an empty text.
 BurstToolTipInputs BurstToolTipInputsOf(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v);
 void WriteBurstToolTip(std::string& out, const BurstToolTipInputs& in);
-// The factor of the activated torpedo skill on the vessel's torpedo type.
-float GetTorpedoSkill(const Calculator& c, Vessel v);
 
 } // namespace vantorel

@@ -8,6 +8,7 @@
 #include "engine/selection.h"
 
 #include <algorithm>
+#include <string_view>
 #include <type_traits>
 
 namespace vantorel {
@@ -62,6 +63,14 @@ T SumOfTerms(const CalculatorState& s, const WeaponTerms& terms, int power, int 
     sum = sum * static_cast<T>(resistance);
     sum = sum * static_cast<T>(accuracy);
     return sum;
+}
+
+// The torpedo type without its trailing blank: "Quantum", "Plasma", ...
+std::string_view TorpedoType(const Calculator& c, Vessel v) {
+    std::string_view type = GetDamageType(c, v, DamageGroup::Projectile);
+    while (!type.empty() && type.back() == ' ')
+        type.remove_suffix(1);
+    return type;
 }
 
 } // namespace
@@ -182,6 +191,37 @@ int GetRange(const Calculator& c, Vessel v) {
     return std::max(index, 0);
 }
 
+float GetTorpedoSkill(const Calculator& c, Vessel v) {
+    struct Row {
+        std::string_view type;
+        float highYield[3];
+        float spread[3];
+    };
+    static constexpr Row kRows[] = {
+        {"Quantum", {2.227f, 2.585f, 2.947f}, {1.893f, 2.198f, 2.506f}},
+        {"Photon", {2.167f, 2.565f, 2.97f}, {1.843f, 2.182f, 2.524f}},
+        {"Plasma", {2.594f, 3.0f, 3.405f}, {1.832f, 2.169f, 2.51f}},
+        {"Chroniton", {1.723f, 1.97f, 2.219f}, {1.446f, 1.674f, 1.886f}},
+        {"Transphasic", {1.723f, 1.97f, 2.219f}, {1.464f, 1.674f, 1.886f}},
+    };
+    const CalculatorState& s = c.state;
+    const std::string_view type = TorpedoType(c, v);
+    const Row* row = nullptr;
+    for (const Row& r : kRows)
+        if (r.type == type) row = &r;
+    // Tricobalt, or no type at all: no skill multiplies it.
+    if (row == nullptr) return 1.0f;
+
+    const int highYield = s.TorpedoHighYield[v];
+    if (highYield >= 1 && highYield <= 3) return row->highYield[highYield - 1];
+    const int spread = s.TorpedoSpread[v];
+    if (spread >= 1 && spread <= 3) {
+        const int targets = std::min<int>(s.SkillTargets[v], 3 * spread);
+        return row->spread[spread - 1] * static_cast<float>(targets);
+    }
+    return 1.0f;
+}
+
 VesselFactors FactorsOf(const Calculator& c, Vessel v) {
     VesselFactors f;
     f.beamSkill = BeamSkillModifier(c, v);
@@ -192,6 +232,9 @@ VesselFactors FactorsOf(const Calculator& c, Vessel v) {
     f.criticalBoosted = CriticalMultiplier(f.rates, Severity::Boosted, 0.0f, 0.0f);
     f.power = GetPowerLevel(c, v, Bonus::With);
     f.distance = GetRange(c, v);
+    const CalculatorState& s = c.state;
+    if (s.TorpedoHighYield[v] > 0 || s.TorpedoSpread[v] > 0) f.torpedoSkill = GetTorpedoSkill(c, v);
+    f.plasmaTorpedoes = TorpedoType(c, v) == "Plasma";
     return f;
 }
 

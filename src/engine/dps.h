@@ -54,8 +54,12 @@ struct VesselFactors {
     float criticalBoosted = 1.0f; // CriticalMultiplier(v, Boosted, 0, 0)
     int power = 100;              // GetPowerLevel(v, With)
     int distance = 0;             // GetRange(v)
+    float torpedoSkill = 1.0f;    // GetTorpedoSkill(v) while a torpedo skill is active
+    bool plasmaTorpedoes = false; // plasma torpedoes burn
 };
 VesselFactors FactorsOf(const Calculator& c, Vessel v);
+// The factor of the activated torpedo skill on the vessel's torpedo type.
+float GetTorpedoSkill(const Calculator& c, Vessel v);
 
 // Beam Overload's own DPS leaves the activated skills out.
 enum class SkillEffect { Counted, Ignored };
