@@ -98,21 +98,22 @@ struct CurveValues {
     double at[91][6][7];
 };
 
-// Every DPS of every arc reads the curves, so they are read once, from the
-// same constant table the start-up fills the state with.
-const CurveValues& ReadCurves() {
-    static const CurveValues values = [] {
-        CalculatorState tables;
-        FillDPWTables(tables);
-        CurveValues v{};
-        for (int power = 35; power <= 125; ++power)
-            for (int kind = 1; kind <= 6; ++kind)
-                for (int count = 2; count <= 8; ++count)
-                    v.at[power - 35][kind - 1][count - 2] = ReadCurve(tables, power, kind, count);
-        return v;
-    }();
-    return values;
+CurveValues ReadCurves() {
+    CalculatorState tables;
+    FillDPWTables(tables);
+    CurveValues v{};
+    for (int power = 35; power <= 125; ++power)
+        for (int kind = 1; kind <= 6; ++kind)
+            for (int count = 2; count <= 8; ++count)
+                v.at[power - 35][kind - 1][count - 2] = ReadCurve(tables, power, kind, count);
+    return v;
 }
+
+// Every term of every DPS reads the curves, so they are read once, when the
+// program starts, from the same constant table the start-up fills the state
+// with. A constant: nothing calculates before main() runs, so nothing reads
+// it before it is filled, and no reading has to check that it is.
+const CurveValues kCurveValues = ReadCurves();
 
 } // namespace
 
@@ -144,7 +145,7 @@ DPW DPWCalc(const CalculatorState& s, int power, int kind, int count) {
         return out;
     }
     out.type = DPW::Type::Double;
-    out.dbl = power >= 35 && power <= 125 ? ReadCurves().at[power - 35][kind - 1][count - 2]
+    out.dbl = power >= 35 && power <= 125 ? kCurveValues.at[power - 35][kind - 1][count - 2]
                                           : ReadCurve(s, power, kind, count);
     return out;
 }
