@@ -44,17 +44,33 @@ struct TypeWords {
     std::string_view of(DamageGroup group) const { return group == DamageGroup::Energy ? energy : projectile; }
 };
 
-// Only names of the text's length are compared: most are told apart by it.
-template <std::size_t N> const Slot* SlotOf(std::string_view text, const ItemName (&order)[N], const TypeWords& words) {
-    for (const ItemName& name : order) {
-        const std::string_view type = words.of(name.type);
-        const std::size_t head = name.head.size();
-        if (text.size() != head + type.size() + name.tail.size()) continue;
-        if (text.starts_with(name.head) && text.compare(head, type.size(), type) == 0 && text.ends_with(name.tail))
-            return &name.slot;
+// The names a port on one side of a vessel can hold, with their lengths,
+// worked out once per count: a port's text is compared only with the names
+// of its own length, and most names are told apart by it.
+template <std::size_t N> class PortNames {
+  public:
+    PortNames(const ItemName (&order)[N], const TypeWords& words) : m_order(order), m_words(words) {
+        for (std::size_t i = 0; i < N; ++i)
+            m_length[i] = order[i].head.size() + words.of(order[i].type).size() + order[i].tail.size();
     }
-    return nullptr;
-}
+
+    const Slot* slotOf(std::string_view text) const {
+        for (std::size_t i = 0; i < N; ++i) {
+            if (text.size() != m_length[i]) continue;
+            const ItemName& name = m_order[i];
+            const std::string_view type = m_words.of(name.type);
+            if (text.starts_with(name.head) && text.compare(name.head.size(), type.size(), type) == 0 &&
+                text.ends_with(name.tail))
+                return &name.slot;
+        }
+        return nullptr;
+    }
+
+  private:
+    const ItemName (&m_order)[N];
+    TypeWords m_words;
+    std::size_t m_length[N];
+};
 
 int Count(const CalculatorState& s, Slot slot, Vessel v) { return s.WeaponCount[slot][v]; }
 
@@ -68,14 +84,16 @@ void CountWeapons(Calculator& c) {
 
     const TypeWords alpha{GetDamageType(c, 1, DamageGroup::Energy), GetDamageType(c, 1, DamageGroup::Projectile)};
     const TypeWords omega{GetDamageType(c, 2, DamageGroup::Energy), GetDamageType(c, 2, DamageGroup::Projectile)};
+    const PortNames alphaForward(kForwardNames, alpha), omegaForward(kForwardNames, omega);
+    const PortNames alphaRear(kRearNames, alpha), omegaRear(kRearNames, omega);
     auto add = [&s](const Slot* slot, Vessel v) {
         if (slot) ++s.WeaponCount[*slot][v];
     };
     for (int i = 1; i <= 4; ++i) {
-        add(SlotOf(c.main.Forward[i].text(), kForwardNames, alpha), 1);
-        add(SlotOf(c.main.CForward[i].text(), kForwardNames, omega), 2);
-        add(SlotOf(c.main.Rear[i].text(), kRearNames, alpha), 1);
-        add(SlotOf(c.main.CRear[i].text(), kRearNames, omega), 2);
+        add(alphaForward.slotOf(c.main.Forward[i].text()), 1);
+        add(omegaForward.slotOf(c.main.CForward[i].text()), 2);
+        add(alphaRear.slotOf(c.main.Rear[i].text()), 1);
+        add(omegaRear.slotOf(c.main.CRear[i].text()), 2);
     }
 }
 
