@@ -96,12 +96,28 @@ struct DamageBoxInputs {
     bool operator==(const DamageBoxInputs&) const = default;
 };
 
+// What the caption of a displayed damage box shows: its total times the
+// factor of its weapon kind, rounded.
+struct DamageCaptionInputs {
+    double factor = 0.0;
+    float total = 0.0f;
+    bool operator==(const DamageCaptionInputs&) const = default;
+};
+
+// The kept texts of one displayed damage box.
+struct DamageBoxTexts {
+    KeptText<DamageCaptionInputs> caption;
+    KeptText<DamageBoxInputs> breakdown;
+};
+
 // The texts of the results as last written, with their inputs: the boxes of
-// the main window and the displayed damage boxes (CalculatedWeaponDPS[1..7])
-// of each vessel's settings window.
+// the main window, and on each vessel's settings window the displayed damage
+// boxes (CalculatedWeaponDPS[1..7]) and the caption over them, which names
+// the weapon power.
 struct KeptTexts {
     PerVessel<ArcBoxTexts> arcBoxes;
-    PerVessel<Indexed<KeptText<DamageBoxInputs>, 1, 7>> damageBreakdowns;
+    PerVessel<Indexed<DamageBoxTexts, 1, 7>> damageBoxes;
+    PerVessel<KeptText<int>> displayedDPSCaptions;
 };
 
 } // namespace vantorel

@@ -26,6 +26,7 @@ constexpr int kDmgMod = 4;
 
 // Skill level from a weapon skill box: a typed "7.9" is level 7.
 int TruncatedLevel(const Text& box) {
+    if (const auto digits = PlainDigits(box.text())) return *digits;
     const auto value = NumericValue(box.text());
     if (!value) return 0;
     const double whole = std::trunc(*value);
@@ -87,13 +88,14 @@ void WriteBreakdown(std::string& tip, F f, const Pieces<T>& p, const BreakdownIn
     skill(", Tactical Team", info.teamLevel, p.team);
 }
 
-// Writes caption and breakdown of one box; the breakdown is kept with its
-// inputs, as ModifiedDPS runs on every change of power.
+// Writes caption and breakdown of one box, each kept with its inputs, as
+// ModifiedDPS runs on every change of power.
 template <typename T, typename F>
-void FillBox(Label& box, KeptText<DamageBoxInputs>& kept, float total, F f, const Pieces<T>& p,
-             const BreakdownInfo& info) {
-    box.setCaption(PlainText(Round(total * f, 0)));
-    const DamageBoxInputs inputs{
+void FillBox(Label& box, DamageBoxTexts& kept, float total, F f, const Pieces<T>& p, const BreakdownInfo& info) {
+    const DamageCaptionInputs caption{static_cast<double>(f), total};
+    box.setCaption(kept.caption.of(
+        caption, [&](std::string& text, const DamageCaptionInputs&) { AppendPlainText(text, Round(total * f, 0)); }));
+    const DamageBoxInputs breakdown{
         static_cast<double>(f),
         {p.base, p.mark, p.skill, p.console, p.accolade, p.damage, p.rarity, p.alpha, p.omega, p.team},
         info.damageMods,
@@ -101,7 +103,8 @@ void FillBox(Label& box, KeptText<DamageBoxInputs>& kept, float total, F f, cons
         info.alphaLevel,
         info.omegaLevel,
         info.teamLevel};
-    box.setTooltip(kept.of(inputs, [&](std::string& tip, const DamageBoxInputs&) { WriteBreakdown(tip, f, p, info); }));
+    box.setTooltip(kept.breakdown.of(
+        breakdown, [&](std::string& tip, const DamageBoxInputs&) { WriteBreakdown(tip, f, p, info); }));
 }
 
 } // namespace
@@ -252,29 +255,33 @@ void ModifiedDPS(Calculator& c, Vessel v) {
         *value = (static_cast<float>(power) * *value) / 50;
 
     VesselSettings& out = c.settings[v];
-    Indexed<KeptText<DamageBoxInputs>, 1, 7>& breakdowns = c.kept.damageBreakdowns[v];
-    out.DisplayedDPSLabel[1].setCaption("Displayed DPS (" + PlainText(power) + " Weapon Power)");
+    Indexed<DamageBoxTexts, 1, 7>& kept = c.kept.damageBoxes[v];
+    out.DisplayedDPSLabel[1].setCaption(c.kept.displayedDPSCaptions[v].of(power, [](std::string& text, int p) {
+        text += "Displayed DPS (";
+        AppendPlainText(text, p);
+        text += " Weapon Power)";
+    }));
 
     const BreakdownInfo info{dmgCount, rarityMods, alphaLevel, omegaLevel, team};
     const Pieces<float> cannon{base,        markBonus,   skillCannon, consoleCannon, energyAccolade,
                                damageBonus, rarityBonus, alphaEnergy, omegaEnergy,   teamEnergy};
     const Pieces<float> beam{base,        markBonus,   skillBeam,   consoleBeam, energyAccolade,
                              damageBonus, rarityBonus, alphaEnergy, omegaEnergy, teamEnergy};
-    FillBox(out.CalculatedWeaponDPS[1], breakdowns[1], cannonTotal, 1.45, cannon, info);
-    FillBox(out.CalculatedWeaponDPS[2], breakdowns[2], beamTotal, 1.3, beam, info);
-    FillBox(out.CalculatedWeaponDPS[3], breakdowns[3], cannonTotal, 1.2, cannon, info);
-    FillBox(out.CalculatedWeaponDPS[4], breakdowns[4], beamTotal, 1, beam, info);
-    FillBox(out.CalculatedWeaponDPS[5], breakdowns[5], cannonTotal, 0.75, cannon, info);
+    FillBox(out.CalculatedWeaponDPS[1], kept[1], cannonTotal, 1.45, cannon, info);
+    FillBox(out.CalculatedWeaponDPS[2], kept[2], beamTotal, 1.3, beam, info);
+    FillBox(out.CalculatedWeaponDPS[3], kept[3], cannonTotal, 1.2, cannon, info);
+    FillBox(out.CalculatedWeaponDPS[4], kept[4], beamTotal, 1, beam, info);
+    FillBox(out.CalculatedWeaponDPS[5], kept[5], cannonTotal, 0.75, cannon, info);
 
     const Pieces<float> torpedoPieces{projectileBase, markShare,   skillTorpedo, consoleTorpedo, accoladeShare,
                                       damageShare,    rarityShare, alphaShare,   omegaShare,     teamProjectile};
-    FillBox(out.CalculatedWeaponDPS[6], breakdowns[6], st.TorpedoDamage[v], 1, torpedoPieces, info);
+    FillBox(out.CalculatedWeaponDPS[6], kept[6], st.TorpedoDamage[v], 1, torpedoPieces, info);
     // The mine total carries a factor 1.25, so its pieces do too.
     auto mines = [](float x) { return x * 1.25; };
     const Pieces<double> minePieces{mines(projectileBase), mines(markShare),     mines(skillMine),   mines(consoleMine),
                                     mines(accoladeShare),  mines(damageShare),   mines(rarityShare), mines(alphaShare),
                                     mines(omegaShare),     mines(teamProjectile)};
-    FillBox(out.CalculatedWeaponDPS[7], breakdowns[7], st.MineDamage[v], 1, minePieces, info);
+    FillBox(out.CalculatedWeaponDPS[7], kept[7], st.MineDamage[v], 1, minePieces, info);
 
     CalculateFiringArcs(c);
 }

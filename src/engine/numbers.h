@@ -25,6 +25,10 @@ bool IsNumeric(std::string_view text);
 std::optional<double> NumericValue(std::string_view text);
 // The value of a numeric text, or `fallback`.
 double NumericOr(std::string_view text, double fallback = 0.0);
+// The value of one to four plain digits with blanks around them (" 9",
+// "10"), or nothing: what a skill box nearly always holds, read without the
+// general number reading, as skill levels are read on every recalculation.
+std::optional<int> PlainDigits(std::string_view text);
 // A whole number read from a numeric text (rounded half to even), or
 // `fallback` if the text is not numeric.
 int WholeNumberOf(std::string_view text, int fallback = 0);
