@@ -76,16 +76,25 @@ void WorkOutBursts(Calculator& c, const VesselFactors& f, Vessel v) {
     if (s.ArcDPS[7][v] > 0) s.ArcShown[13] = true;
 }
 
-void WorkOutRows(Calculator& c, const VesselFactors& f, Vessel v) {
+// The DPS of the six rows, and what their tooltips show.
+void WorkOutRows(Calculator& c, const VesselFactors& f, Vessel v, std::array<ArcToolTipInputs, 6>& tooltips) {
     CalculatorState& s = c.state;
     WeaponCounts counts[6];
     for (int row = 0; row <= 5; ++row) {
         counts[row] = RowCounts(s, v, row);
-        // A row of the same weapons as an earlier one has its DPS: a vessel
-        // with few kinds of weapon fires the same set in several arcs.
+        const auto r = static_cast<std::size_t>(row);
+        // A row of the same weapons as an earlier one has its DPS and
+        // tooltip: a vessel with few kinds of weapon fires the same set in
+        // several arcs.
         const int same = SameSetBefore(counts, row);
-        s.ArcDPS[row][v] = same < row ? s.ArcDPS[same][v]
-                                      : CalculateDPS(c, f, {counts[row], f.power, f.distance}, v, SkillEffect::Counted);
+        if (same < row) {
+            s.ArcDPS[row][v] = s.ArcDPS[same][v];
+            tooltips[r] = tooltips[static_cast<std::size_t>(same)];
+            continue;
+        }
+        const RowResult result = CalculateRow(c, f, {counts[row], f.power, f.distance}, v);
+        s.ArcDPS[row][v] = result.dps;
+        tooltips[r] = result.tooltip;
     }
 }
 
@@ -99,15 +108,15 @@ void CalculateFiringArcs(Calculator& c) {
     // which nothing below changes: showing the arcs only shows and hides
     // boxes and rebuilds the shuttle rank lists, which no factor reads. So
     // they are read once for the bursts, all six rows and their texts.
-    PerVessel<VesselFactors> factors;
-    factors[1] = FactorsOf(c, 1);
-    if (comparing) factors[2] = FactorsOf(c, 2);
-    WorkOutBursts(c, factors[1], 1);
-    if (comparing) WorkOutBursts(c, factors[2], 2);
+    ArcRows rows;
+    rows.factors[1] = FactorsOf(c, 1);
+    if (comparing) rows.factors[2] = FactorsOf(c, 2);
+    WorkOutBursts(c, rows.factors[1], 1);
+    if (comparing) WorkOutBursts(c, rows.factors[2], 2);
     if (c.results.showArcs) c.results.showArcs(c);
-    WorkOutRows(c, factors[1], 1);
-    if (comparing) WorkOutRows(c, factors[2], 2);
-    if (c.results.showResults) c.results.showResults(c, factors);
+    WorkOutRows(c, rows.factors[1], 1, rows.tooltips[1]);
+    if (comparing) WorkOutRows(c, rows.factors[2], 2, rows.tooltips[2]);
+    if (c.results.showResults) c.results.showResults(c, rows);
 }
 
 ArcValues ArcsOf(const CalculatorState& s, Vessel v) {

@@ -50,20 +50,118 @@ template <typename T> T ValueOf(const DPW& d) {
 }
 
 // The terms added in the order of the kinds, then scaled by resistance and
-// accuracy. A term of no weapons adds nothing and is left out.
-template <typename T>
+// accuracy. A term of no weapons adds nothing and is left out. `each` is
+// shown each term that adds, with its DPW.
+template <typename T, typename Each>
 T SumOfTerms(const CalculatorState& s, const WeaponTerms& terms, int power, int total, float crit, float critBoosted,
-             float resistance, float accuracy) {
+             float resistance, float accuracy, Each each) {
     T sum = 0;
-    for (const WeaponTerm& w : terms) {
+    for (std::size_t i = 0; i < terms.size(); ++i) {
+        const WeaponTerm& w = terms[i];
         if (w.count == 0) continue;
-        const T dpw = ValueOf<T>(DPWCalc(s, power, w.row, total));
-        sum = sum + Term(w.count, dpw, w.range, w.skill, w.modifier, w.boosted ? critBoosted : crit);
+        const DPW dpw = DPWCalc(s, power, w.row, total);
+        each(i, dpw);
+        sum = sum + Term(w.count, ValueOf<T>(dpw), w.range, w.skill, w.modifier, w.boosted ? critBoosted : crit);
     }
     sum = sum * static_cast<T>(resistance);
     sum = sum * static_cast<T>(accuracy);
     return sum;
 }
+
+// The DPS of a set from its terms, rounded to three decimals; `each` is shown
+// each term that adds to it, with its DPW.
+template <typename Each>
+float DPSOf(const Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v, const WeaponTerms& terms,
+            Each each) {
+    const WeaponCounts& counts = set.weapons;
+    const int power = set.power;
+    const int total = counts.total();
+
+    float crit = f.critical;
+    float critBoosted = f.criticalBoosted;
+    if (!RelativeMode(c)) {
+        crit = static_cast<float>(crit * 1.03375);
+        critBoosted = static_cast<float>(critBoosted * 1.03375);
+    }
+    const float resistance = c.state.ResistanceFactor[v];
+    const float accuracy = c.state.AccuracyFactor[v];
+
+    float result = 0.0f;
+    if (total == 1) {
+        result =
+            Round(SumOfTerms<float>(c.state, terms, power, total, crit, critBoosted, resistance, accuracy, each), 3);
+    } else if (total >= 2) {
+        result = static_cast<float>(
+            Round(SumOfTerms<double>(c.state, terms, power, total, crit, critBoosted, resistance, accuracy, each), 3));
+    }
+
+    // No test ever fired dual cannons of either kind among eight weapons.
+    if (total > 7 && (counts.dualHeavyCannons > 0 || counts.dualCannons > 0)) return -1.0f;
+    return result;
+}
+
+// The product of one tooltip entry, in the order of the formula. Each step
+// takes the wider type: all single for a lone weapon, double once the DPW is
+// a double.
+template <typename T>
+float EntryValue(T dpw, int count, float range, float skill, float modifier, float critical, float resistance,
+                 float accuracy) {
+    const auto value = dpw * static_cast<T>(count) * range * skill * modifier * critical * resistance * accuracy;
+    return Round(static_cast<float>(value), 3);
+}
+
+float EntryValue(const DPW& dpw, int count, float range, float skill, float modifier, float critical, float resistance,
+                 float accuracy) {
+    switch (dpw.type) {
+    case DPW::Type::Double:
+        return EntryValue(dpw.dbl, count, range, skill, modifier, critical, resistance, accuracy);
+    case DPW::Type::Single:
+        return EntryValue(dpw.single, count, range, skill, modifier, critical, resistance, accuracy);
+    case DPW::Type::Zero:
+        break;
+    }
+    return 0.0f;
+}
+
+// The tooltip of a set from its terms: each entry as the DPW of its term
+// gives it, and the skill levels its words name.
+class ToolTipParts {
+  public:
+    ToolTipParts(const Calculator& c, const VesselFactors& f, const WeaponTerms& terms, Vessel v)
+        : m_terms(terms), m_resistance(c.state.ResistanceFactor[v]), m_accuracy(c.state.AccuracyFactor[v]) {
+        const CalculatorState& s = c.state;
+        m_boosted = f.criticalBoosted;
+        m_plain = f.critical;
+        // An addition where the DPS multiplies by 1.03375: the parts of a
+        // custom tooltip need not add up to the box.
+        if (!RelativeMode(c)) {
+            m_boosted += 0.03375f;
+            m_plain += 0.03375f;
+        }
+        m_inputs.beamSkill = s.BeamSkill[v];
+        m_inputs.rapidFire = s.RapidFire[v];
+        m_inputs.scatterVolley = s.ScatterVolley[v];
+        m_inputs.targets = s.SkillTargets[v];
+    }
+
+    // The entry of term `i`, which has weapons.
+    void add(std::size_t i, const DPW& dpw) {
+        const WeaponTerm& k = m_terms[i];
+        m_inputs.counts[i] = k.count;
+        m_inputs.values[i] = EntryValue(dpw, k.count, k.range, k.skill, k.modifier, k.boosted ? m_boosted : m_plain,
+                                        m_resistance, m_accuracy);
+    }
+
+    const ArcToolTipInputs& inputs() const { return m_inputs; }
+
+  private:
+    const WeaponTerms& m_terms;
+    float m_resistance;
+    float m_accuracy;
+    float m_boosted = 1.0f;
+    float m_plain = 1.0f;
+    ArcToolTipInputs m_inputs;
+};
 
 // The torpedo type without its trailing blank: "Quantum", "Plasma", ...
 std::string_view TorpedoType(const Calculator& c, Vessel v) {
@@ -267,31 +365,23 @@ WeaponTerms TermsOf(const Calculator& c, const VesselFactors& f, const FiringSet
 }
 
 float CalculateDPS(Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v, SkillEffect skills) {
-    const WeaponTerms terms = TermsOf(c, f, set, v, skills);
-    const WeaponCounts& counts = set.weapons;
-    const int power = set.power;
-    const int total = counts.total();
+    return DPSOf(c, f, set, v, TermsOf(c, f, set, v, skills), [](std::size_t, const DPW&) {});
+}
 
-    float crit = f.critical;
-    float critBoosted = f.criticalBoosted;
-    if (!RelativeMode(c)) {
-        crit = static_cast<float>(crit * 1.03375);
-        critBoosted = static_cast<float>(critBoosted * 1.03375);
-    }
-    const float resistance = c.state.ResistanceFactor[v];
-    const float accuracy = c.state.AccuracyFactor[v];
+ArcToolTipInputs ToolTipInputsOf(const Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v) {
+    const WeaponTerms terms = TermsOf(c, f, set, v, SkillEffect::Counted);
+    const int total = set.weapons.total();
+    ToolTipParts parts(c, f, terms, v);
+    for (std::size_t i = 0; i < terms.size(); ++i)
+        if (terms[i].count > 0) parts.add(i, DPWCalc(c.state, set.power, terms[i].row, total));
+    return parts.inputs();
+}
 
-    float result = 0.0f;
-    if (total == 1) {
-        result = Round(SumOfTerms<float>(c.state, terms, power, total, crit, critBoosted, resistance, accuracy), 3);
-    } else if (total >= 2) {
-        result = static_cast<float>(
-            Round(SumOfTerms<double>(c.state, terms, power, total, crit, critBoosted, resistance, accuracy), 3));
-    }
-
-    // No test ever fired dual cannons of either kind among eight weapons.
-    if (total > 7 && (counts.dualHeavyCannons > 0 || counts.dualCannons > 0)) return -1.0f;
-    return result;
+RowResult CalculateRow(Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v) {
+    const WeaponTerms terms = TermsOf(c, f, set, v, SkillEffect::Counted);
+    ToolTipParts parts(c, f, terms, v);
+    const float dps = DPSOf(c, f, set, v, terms, [&parts](std::size_t i, const DPW& dpw) { parts.add(i, dpw); });
+    return {dps, parts.inputs()};
 }
 
 } // namespace vantorel

@@ -93,5 +93,15 @@ WeaponTerms TermsOf(const Calculator& c, const VesselFactors& f, const FiringSet
 float CalculateDPS(Calculator& c, const FiringSet& set, Vessel v, SkillEffect skills);
 // The same with the vessel's factors worked out already.
 float CalculateDPS(Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v, SkillEffect skills);
+// What the tooltip of a set's box shows: each kind's count and its part of
+// the DPS, which the main window writes out.
+ArcToolTipInputs ToolTipInputsOf(const Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v);
+// A row of the firing arcs, skills counted: its DPS and its tooltip's
+// inputs, in one pass over the terms of its set.
+struct RowResult {
+    float dps = 0.0f;
+    ArcToolTipInputs tooltip;
+};
+RowResult CalculateRow(Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v);
 
 } // namespace vantorel

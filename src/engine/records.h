@@ -189,7 +189,7 @@ class Random {
 };
 
 struct Calculator;
-struct VesselFactors; // engine/dps.h
+struct ArcRows; // engine/arcs.h
 
 // How a recalculation reaches the windows. The engine works out the numbers
 // of the firing arcs; the main window shows them. The program sets both steps
@@ -198,9 +198,9 @@ struct ResultsView {
     // The arcs in use are decided: show their boxes and rebuild the shuttle
     // rank lists, whose selection the DPS of the rows then reads.
     void (*showArcs)(Calculator&) = nullptr;
-    // The rows are worked out, with these factors of each vessel on show:
-    // captions, tooltips, colours, the note, the graph.
-    void (*showResults)(Calculator&, const PerVessel<VesselFactors>& factors) = nullptr;
+    // The rows are worked out: captions, tooltips, colours, the note, the
+    // graph, from what the recalculation hands over with them.
+    void (*showResults)(Calculator&, const ArcRows& rows) = nullptr;
 };
 
 // Everything the program knows. `main` (or a test, or the CLI) owns one,

@@ -38,24 +38,15 @@ void ShowSide(Indexed<Picture, 0, 11>& arcs, Indexed<Label, 0, 13>& labels, Inde
 
 // The values and tooltips of one vessel's boxes. Each text is taken from
 // the vessel's kept texts, which write it again only for new inputs.
-void ShowRows(Calculator& c, const VesselFactors& factors, Vessel v) {
+void ShowRows(Calculator& c, const ArcRows& rows, Vessel v) {
     const CalculatorState& s = c.state;
     MainSelection& m = c.main;
     ArcBoxTexts& kept = c.kept.arcBoxes[v];
+    const VesselFactors& factors = rows.factors[v];
 
-    WeaponCounts counts[6];
     const std::string* tips[6];
-    for (int row = 0; row <= 5; ++row) {
-        counts[row] = RowCounts(s, v, row);
-        // The same weapons as an earlier row: the same tooltip.
-        const int same = SameSetBefore(counts, row);
-        if (same < row) {
-            tips[row] = tips[same];
-            continue;
-        }
-        const FiringSet set{counts[row], factors.power, factors.distance};
-        tips[row] = &kept.tooltips[static_cast<std::size_t>(row)].of(ToolTipInputsOf(c, factors, set, v), WriteToolTip);
-    }
+    for (std::size_t row = 0; row < 6; ++row)
+        tips[row] = &kept.tooltips[row].of(rows.tooltips[v][row], WriteToolTip);
     const std::string* values[8];
     for (int row = 0; row <= 7; ++row) {
         values[row] = &kept.captions[static_cast<std::size_t>(row)].of(
@@ -124,12 +115,12 @@ void ShowArcBoxes(Calculator& c) {
     if (c.state.Comparing != 0) ShuttleRankControls(c, 2);
 }
 
-void ShowArcResults(Calculator& c, const PerVessel<VesselFactors>& factors) {
+void ShowArcResults(Calculator& c, const ArcRows& rows) {
     const CalculatorState& s = c.state;
     MainSelection& m = c.main;
-    ShowRows(c, factors[1], 1);
+    ShowRows(c, rows, 1);
     if (s.Comparing != 0) {
-        ShowRows(c, factors[2], 2);
+        ShowRows(c, rows, 2);
         if (m.Simplified.value() == 1) {
             for (int k = 0; k < 3; ++k)
                 DifferenceColor(c, kSimpleBox[k], s.ArcDPS[kSimpleRow[k]][1], s.ArcDPS[kSimpleRow[k]][2]);

@@ -1,8 +1,6 @@
 #include "mainwindow/tooltips.h"
 
-#include "engine/dpw.h"
 #include "engine/numbers.h"
-#include "engine/selection.h"
 
 #include <algorithm>
 #include <iterator>
@@ -10,28 +8,6 @@
 namespace vantorel {
 
 namespace {
-
-// The product of one entry, in the order of the formula. Each step takes the
-// wider type: all single for a lone weapon, double once the DPW is a double.
-template <typename T>
-float EntryValue(T dpw, int count, float range, float skill, float modifier, float critical, float resistance,
-                 float accuracy) {
-    const auto value = dpw * static_cast<T>(count) * range * skill * modifier * critical * resistance * accuracy;
-    return Round(static_cast<float>(value), 3);
-}
-
-float EntryValue(const DPW& dpw, int count, float range, float skill, float modifier, float critical, float resistance,
-                 float accuracy) {
-    switch (dpw.type) {
-    case DPW::Type::Double:
-        return EntryValue(dpw.dbl, count, range, skill, modifier, critical, resistance, accuracy);
-    case DPW::Type::Single:
-        return EntryValue(dpw.single, count, range, skill, modifier, critical, resistance, accuracy);
-    case DPW::Type::Zero:
-        break;
-    }
-    return 0.0f;
-}
 
 // " (Rapid Fire 2):", " (Scatter Volley 1, 2 Targets):" or ":".
 void AppendCannonSkill(std::string& out, const ArcToolTipInputs& in) {
@@ -82,35 +58,6 @@ std::string CalculateToolTip(Calculator& c, const VesselFactors& f, const Firing
     std::string text;
     WriteToolTip(text, ToolTipInputsOf(c, f, set, v));
     return text;
-}
-
-ArcToolTipInputs ToolTipInputsOf(const Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v) {
-    const CalculatorState& s = c.state;
-    float boosted = f.criticalBoosted;
-    float plain = f.critical;
-    // An addition where the DPS multiplies by 1.03375: the parts of a custom
-    // tooltip need not add up to the box.
-    if (!RelativeMode(c)) {
-        boosted += 0.03375f;
-        plain += 0.03375f;
-    }
-    const WeaponTerms terms = TermsOf(c, f, set, v, SkillEffect::Counted);
-    const int total = set.weapons.total();
-    const int power = set.power;
-
-    ArcToolTipInputs in;
-    for (std::size_t i = 0; i < terms.size(); ++i) {
-        const WeaponTerm& k = terms[i];
-        if (k.count <= 0) continue;
-        in.counts[i] = k.count;
-        in.values[i] = EntryValue(DPWCalc(s, power, k.row, total), k.count, k.range, k.skill, k.modifier,
-                                  k.boosted ? boosted : plain, s.ResistanceFactor[v], s.AccuracyFactor[v]);
-    }
-    in.beamSkill = s.BeamSkill[v];
-    in.rapidFire = s.RapidFire[v];
-    in.scatterVolley = s.ScatterVolley[v];
-    in.targets = s.SkillTargets[v];
-    return in;
 }
 
 void WriteToolTip(std::string& out, const ArcToolTipInputs& in) {

@@ -3,7 +3,6 @@
 
 #include "program/program.h"
 
-#include "engine/dps.h"
 #include "graph/graph.h"
 #include "mainwindow/compare.h"
 #include "mainwindow/events.h"
@@ -16,8 +15,8 @@ namespace vantorel {
 
 namespace {
 
-void ShowResults(Calculator& c, const PerVessel<VesselFactors>& factors) {
-    ShowArcResults(c, factors);
+void ShowResults(Calculator& c, const ArcRows& rows) {
+    ShowArcResults(c, rows);
     GraphControl(c);
 }
 
