@@ -2,6 +2,8 @@
 
 #include "engine/selection.h"
 
+#include <array>
+#include <string>
 #include <string_view>
 
 namespace vantorel {
@@ -77,24 +79,50 @@ int Count(const CalculatorState& s, Slot slot, Vessel v) { return s.WeaponCount[
 } // namespace
 
 void CountWeapons(Calculator& c) {
+    const MainSelection& m = c.main;
+    const std::array<std::string_view, 4> words{
+        GetDamageType(c, 1, DamageGroup::Energy), GetDamageType(c, 1, DamageGroup::Projectile),
+        GetDamageType(c, 2, DamageGroup::Energy), GetDamageType(c, 2, DamageGroup::Projectile)};
+    const std::array<const std::string*, 16> ports{
+        &m.Forward[1].text(), &m.CForward[1].text(), &m.Rear[1].text(), &m.CRear[1].text(),
+        &m.Forward[2].text(), &m.CForward[2].text(), &m.Rear[2].text(), &m.CRear[2].text(),
+        &m.Forward[3].text(), &m.CForward[3].text(), &m.Rear[3].text(), &m.CRear[3].text(),
+        &m.Forward[4].text(), &m.CForward[4].text(), &m.Rear[4].text(), &m.CRear[4].text()};
+
+    // The count is made anew only when a port or a type word differs from
+    // those it was last made from (see KeptCount).
+    KeptCount& kept = c.kept.count;
+    bool same = kept.made && kept.typeWords == words;
+    for (std::size_t i = 0; same && i < ports.size(); ++i)
+        same = kept.ports[i] == *ports[i];
+    if (!same) {
+        kept.made = false;
+        const TypeWords alpha{words[0], words[1]};
+        const TypeWords omega{words[2], words[3]};
+        const PortNames alphaForward(kForwardNames, alpha), omegaForward(kForwardNames, omega);
+        const PortNames alphaRear(kRearNames, alpha), omegaRear(kRearNames, omega);
+        const Slot* slots[16];
+        for (std::size_t i = 0; i < ports.size(); i += 4) {
+            slots[i] = alphaForward.slotOf(*ports[i]);
+            slots[i + 1] = omegaForward.slotOf(*ports[i + 1]);
+            slots[i + 2] = alphaRear.slotOf(*ports[i + 2]);
+            slots[i + 3] = omegaRear.slotOf(*ports[i + 3]);
+        }
+        kept.counts.fill(0);
+        for (std::size_t i = 0; i < ports.size(); ++i) {
+            // Alpha's ports are the first and third of each four.
+            const std::size_t vessel = i % 2;
+            if (slots[i]) ++kept.counts[(static_cast<std::size_t>(*slots[i]) - 1) * 2 + vessel];
+            kept.ports[i] = *ports[i];
+        }
+        kept.typeWords = words;
+        kept.made = true;
+    }
+
     CalculatorState& s = c.state;
     for (int slot = 1; slot <= 11; ++slot)
         for (Vessel v = 1; v <= 2; ++v)
-            s.WeaponCount[slot][v] = 0;
-
-    const TypeWords alpha{GetDamageType(c, 1, DamageGroup::Energy), GetDamageType(c, 1, DamageGroup::Projectile)};
-    const TypeWords omega{GetDamageType(c, 2, DamageGroup::Energy), GetDamageType(c, 2, DamageGroup::Projectile)};
-    const PortNames alphaForward(kForwardNames, alpha), omegaForward(kForwardNames, omega);
-    const PortNames alphaRear(kRearNames, alpha), omegaRear(kRearNames, omega);
-    auto add = [&s](const Slot* slot, Vessel v) {
-        if (slot) ++s.WeaponCount[*slot][v];
-    };
-    for (int i = 1; i <= 4; ++i) {
-        add(alphaForward.slotOf(c.main.Forward[i].text()), 1);
-        add(omegaForward.slotOf(c.main.CForward[i].text()), 2);
-        add(alphaRear.slotOf(c.main.Rear[i].text()), 1);
-        add(omegaRear.slotOf(c.main.CRear[i].text()), 2);
-    }
+            s.WeaponCount[slot][v] = kept.counts[static_cast<std::size_t>((slot - 1) * 2 + (v - 1))];
 }
 
 WeaponCounts RowCounts(const CalculatorState& s, Vessel v, int row) {

@@ -110,11 +110,25 @@ struct DamageBoxTexts {
     KeptText<DamageBoxInputs> breakdown;
 };
 
-// The texts of the results as last written, with their inputs: the boxes of
-// the main window, and on each vessel's settings window the displayed damage
-// boxes (CalculatedWeaponDPS[1..7]) and the caption over them, which names
-// the weapon power.
-struct KeptTexts {
+// The weapon count as last made, with everything it was made from: the texts
+// of the sixteen ports (Alpha's forward, Omega's forward, Alpha's rear and
+// Omega's rear port of each number 1 to 4, in that order) and the four type
+// words (energy and projectile of Alpha, then of Omega). The ports change
+// only when a weapon is chosen, and every other input ends in a count too.
+struct KeptCount {
+    std::array<std::string, 16> ports;
+    std::array<std::string_view, 4> typeWords; // constant texts
+    std::array<std::int16_t, 22> counts{};     // WeaponCount[slot][vessel], slot 1 to 11, Alpha first
+    bool made = false;
+};
+
+// What the recalculation keeps with the inputs it was made from: the weapon
+// count, and the texts of the results as last written: the boxes of the main
+// window, and on each vessel's settings window the displayed damage boxes
+// (CalculatedWeaponDPS[1..7]) and the caption over them, which names the
+// weapon power.
+struct Kept {
+    KeptCount count;
     PerVessel<ArcBoxTexts> arcBoxes;
     PerVessel<Indexed<DamageBoxTexts, 1, 7>> damageBoxes;
     PerVessel<KeptText<int>> displayedDPSCaptions;

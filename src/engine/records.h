@@ -217,7 +217,7 @@ struct Calculator {
     CalculatorState state;
     Random random;
     ResultsView results;
-    KeptTexts kept;
+    Kept kept;
 
     // Work area of the primary screen in twips, given by the front end.
     int workLeft = 0, workTop = 0, workWidth = 19200, workHeight = 15600;
