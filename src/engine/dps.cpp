@@ -171,6 +171,37 @@ std::string_view TorpedoType(const Calculator& c, Vessel v) {
     return type;
 }
 
+// The factor of the activated torpedo skill on a torpedo type.
+float TorpedoSkillOf(const Calculator& c, Vessel v, std::string_view type) {
+    struct Row {
+        std::string_view type;
+        float highYield[3];
+        float spread[3];
+    };
+    static constexpr Row kRows[] = {
+        {"Quantum", {2.227f, 2.585f, 2.947f}, {1.893f, 2.198f, 2.506f}},
+        {"Photon", {2.167f, 2.565f, 2.97f}, {1.843f, 2.182f, 2.524f}},
+        {"Plasma", {2.594f, 3.0f, 3.405f}, {1.832f, 2.169f, 2.51f}},
+        {"Chroniton", {1.723f, 1.97f, 2.219f}, {1.446f, 1.674f, 1.886f}},
+        {"Transphasic", {1.723f, 1.97f, 2.219f}, {1.464f, 1.674f, 1.886f}},
+    };
+    const CalculatorState& s = c.state;
+    const Row* row = nullptr;
+    for (const Row& r : kRows)
+        if (r.type == type) row = &r;
+    // Tricobalt, or no type at all: no skill multiplies it.
+    if (row == nullptr) return 1.0f;
+
+    const int highYield = s.TorpedoHighYield[v];
+    if (highYield >= 1 && highYield <= 3) return row->highYield[highYield - 1];
+    const int spread = s.TorpedoSpread[v];
+    if (spread >= 1 && spread <= 3) {
+        const int targets = std::min<int>(s.SkillTargets[v], 3 * spread);
+        return row->spread[spread - 1] * static_cast<float>(targets);
+    }
+    return 1.0f;
+}
+
 } // namespace
 
 float GetRangeMod(int distance, RangeGroup group) {
@@ -289,36 +320,7 @@ int GetRange(const Calculator& c, Vessel v) {
     return std::max(index, 0);
 }
 
-float GetTorpedoSkill(const Calculator& c, Vessel v) {
-    struct Row {
-        std::string_view type;
-        float highYield[3];
-        float spread[3];
-    };
-    static constexpr Row kRows[] = {
-        {"Quantum", {2.227f, 2.585f, 2.947f}, {1.893f, 2.198f, 2.506f}},
-        {"Photon", {2.167f, 2.565f, 2.97f}, {1.843f, 2.182f, 2.524f}},
-        {"Plasma", {2.594f, 3.0f, 3.405f}, {1.832f, 2.169f, 2.51f}},
-        {"Chroniton", {1.723f, 1.97f, 2.219f}, {1.446f, 1.674f, 1.886f}},
-        {"Transphasic", {1.723f, 1.97f, 2.219f}, {1.464f, 1.674f, 1.886f}},
-    };
-    const CalculatorState& s = c.state;
-    const std::string_view type = TorpedoType(c, v);
-    const Row* row = nullptr;
-    for (const Row& r : kRows)
-        if (r.type == type) row = &r;
-    // Tricobalt, or no type at all: no skill multiplies it.
-    if (row == nullptr) return 1.0f;
-
-    const int highYield = s.TorpedoHighYield[v];
-    if (highYield >= 1 && highYield <= 3) return row->highYield[highYield - 1];
-    const int spread = s.TorpedoSpread[v];
-    if (spread >= 1 && spread <= 3) {
-        const int targets = std::min<int>(s.SkillTargets[v], 3 * spread);
-        return row->spread[spread - 1] * static_cast<float>(targets);
-    }
-    return 1.0f;
-}
+float GetTorpedoSkill(const Calculator& c, Vessel v) { return TorpedoSkillOf(c, v, TorpedoType(c, v)); }
 
 VesselFactors FactorsOf(const Calculator& c, Vessel v) {
     VesselFactors f;
@@ -331,8 +333,9 @@ VesselFactors FactorsOf(const Calculator& c, Vessel v) {
     f.power = GetPowerLevel(c, v, Bonus::With);
     f.distance = GetRange(c, v);
     const CalculatorState& s = c.state;
-    if (s.TorpedoHighYield[v] > 0 || s.TorpedoSpread[v] > 0) f.torpedoSkill = GetTorpedoSkill(c, v);
-    f.plasmaTorpedoes = TorpedoType(c, v) == "Plasma";
+    const std::string_view torpedoes = TorpedoType(c, v);
+    if (s.TorpedoHighYield[v] > 0 || s.TorpedoSpread[v] > 0) f.torpedoSkill = TorpedoSkillOf(c, v, torpedoes);
+    f.plasmaTorpedoes = torpedoes == "Plasma";
     return f;
 }
 

@@ -229,25 +229,7 @@ double NumericOr(std::string_view text, double fallback) {
     return v ? *v : fallback;
 }
 
-std::optional<int> PlainDigits(std::string_view text) {
-    std::size_t i = 0, end = text.size();
-    while (i < end && text[i] == ' ')
-        ++i;
-    while (end > i && text[end - 1] == ' ')
-        --end;
-    if (end == i || end - i > 4) return std::nullopt;
-    int whole = 0;
-    for (std::size_t k = i; k < end; ++k) {
-        if (text[k] < '0' || text[k] > '9') return std::nullopt;
-        whole = whole * 10 + (text[k] - '0');
-    }
-    return whole;
-}
-
-int WholeNumberOf(std::string_view text, int fallback) {
-    // What a box holds is nearly always a few plain digits: those are read
-    // directly, to the same value the general reading below gives them.
-    if (const auto digits = PlainDigits(text)) return *digits;
+int WholeNumberOfText(std::string_view text, int fallback) {
     auto v = NumericValue(text);
     if (!v) return fallback;
     if (*v > 32767.0 || *v < -32768.0) return fallback;
