@@ -81,13 +81,14 @@ float CalculateBurst(Calculator& c, const VesselFactors& f, const BurstCounts& n
 
     if (n.torpedoes > 0) {
         const float t = f.torpedoSkill;
-        float burn = 1.0f;
+        float withBurn = 1.0f;
         if (f.plasmaTorpedoes)
-            burn = s.TorpedoHighYield[v] > 0 ? static_cast<float>(s.SkillTargets[v]) * kHeavyPlasmaBurn : kPlasmaBurn;
+            withBurn =
+                s.TorpedoHighYield[v] > 0 ? static_cast<float>(s.SkillTargets[v]) * kHeavyPlasmaBurn : kPlasmaBurn;
         if (RelativeMode(c))
-            sum = BaseProjectileDamage(c, v) * critical * burn * s.ResistanceFactor[v] * s.AccuracyFactor[v] * t;
+            sum = BaseProjectileDamage(c, v) * critical * withBurn * s.ResistanceFactor[v] * s.AccuracyFactor[v] * t;
         else
-            sum = t * s.TorpedoDamage[v] * critical * burn * s.ResistanceFactor[v] * s.AccuracyFactor[v];
+            sum = t * s.TorpedoDamage[v] * critical * withBurn * s.ResistanceFactor[v] * s.AccuracyFactor[v];
     }
     if (n.mines > 0) sum += MineTerm(c, critical, v);
     if (s.BeamOverload[v] > 0) {

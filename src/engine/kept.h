@@ -1,15 +1,16 @@
 #pragma once
 
-// Texts kept with the inputs they were written from. Every click ends in a
+// Results kept with the inputs they were made from. Every click ends in a
 // recalculation that writes each caption and tooltip of the results again,
 // and most of them come out as they were: a text whose inputs equal those it
 // was last written from is taken as it stands, and is otherwise written anew
 // into the same buffer. A kept text belongs to one box, so what is fixed for
-// that box (its words, its factor's type) is not part of its inputs.
+// that box (its words, its factor's type) is not part of its inputs. The
+// weapon count is kept the same way.
 //
-// The inputs are everything the text shows, in one record: the records below
+// The inputs are everything a text shows, in one record: the records below
 // list them. Numbers are compared by value; the texts write a negative zero
-// as "0", like a positive one.
+// as "0", like a positive one. The calculator owns what is kept (`kept`).
 
 #include "engine/fields.h"
 

@@ -217,6 +217,7 @@ struct Calculator {
     CalculatorState state;
     Random random;
     ResultsView results;
+    // Texts and counts of past recalculations, with their inputs (engine/kept.h).
     Kept kept;
 
     // Work area of the primary screen in twips, given by the front end.
