@@ -49,9 +49,7 @@ TEST(Numbers, PlainDigitsReadAsTheGeneralReadingDoes) {
     for (const char* text :
          {"9", " 9 ", "0009", "10", "9999", "12345", "9a", "+9", "-9", "9.5", "9 9", " ", "", "47"}) {
         EXPECT_EQ(WholeNumberOf(text, -7), WholeNumberOfText(text, -7)) << '"' << text << '"';
-        if (const auto digits = PlainDigits(text)) {
-            EXPECT_EQ(*digits, NumericValue(text).value()) << text;
-        }
+        if (const auto digits = PlainDigits(text)) { EXPECT_EQ(*digits, NumericValue(text).value()) << text; }
     }
 }
 
