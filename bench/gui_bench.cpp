@@ -42,6 +42,7 @@ BENCHMARK(ChooseWeapon)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("VANTOREL_IMAGES")) qputenv("VANTOREL_IMAGES", VANTOREL_IMAGES_DIR);
     // Qt wants a private runtime folder; one of our own if none is given.
     QTemporaryDir runtime;
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR") && runtime.isValid()) {
