@@ -88,15 +88,14 @@ void NumbersOnly(benchmark::State& state) {
     CalculatorState& s = c->state;
     for (auto _ : state) {
         for (Vessel v = 1; v <= 2; ++v) {
-            const int power = GetPowerLevel(*c, v, Bonus::With);
-            const int distance = GetRange(*c, v);
-            // As the recalculation does: the vessel's factors once, then the rows.
+            // As the recalculation does: the vessel's factors, power and
+            // distance once, then the bursts and the rows.
             const VesselFactors f = FactorsOf(*c, v);
-            s.ArcDPS[6][v] = CalculateBurst(*c, FrontBurstCounts(s, v), v);
-            s.ArcDPS[7][v] = CalculateBurst(*c, RearBurstCounts(s, v), v);
+            s.ArcDPS[6][v] = CalculateBurst(*c, f, FrontBurstCounts(s, v), v);
+            s.ArcDPS[7][v] = CalculateBurst(*c, f, RearBurstCounts(s, v), v);
             for (int row = 0; row <= 5; ++row)
                 s.ArcDPS[row][v] =
-                    CalculateDPS(*c, f, {RowCounts(s, v, row), power, distance}, v, SkillEffect::Counted);
+                    CalculateDPS(*c, f, {RowCounts(s, v, row), f.power, f.distance}, v, SkillEffect::Counted);
         }
         benchmark::DoNotOptimize(s.ArcDPS[5][2]);
     }

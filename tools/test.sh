@@ -36,4 +36,4 @@ cmake --build build-release -j "$jobs"
 # A short run shows that the benchmarks start and finish; their figures are
 # read from a longer run by hand, never judged here.
 ./build-release/bench/vantorel_bench --benchmark_min_time=0.01 > /dev/null
-./build-release/bench/vantorel_gui_bench --benchmark_min_time=0.01 > /dev/null 2>&1
+./build-release/bench/vantorel-gui-bench --benchmark_min_time=0.01 > /dev/null 2>&1

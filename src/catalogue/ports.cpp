@@ -63,8 +63,8 @@ std::string RecomposeRear(const std::string& t, const std::string& e, const std:
 } // namespace
 
 void WeaponAdd(Calculator& c, int list, Vessel v) {
-    const std::string e = GetDamageType(c, v, DamageGroup::Energy);
-    const std::string p = GetDamageType(c, v, DamageGroup::Projectile);
+    const std::string e(GetDamageType(c, v, DamageGroup::Energy));
+    const std::string p(GetDamageType(c, v, DamageGroup::Projectile));
     for (int i = 1; i <= 4; ++i) {
         List& f = ForwardPort(c, v, i);
         List& r = RearPort(c, v, i);

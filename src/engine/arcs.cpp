@@ -3,7 +3,6 @@
 #include "engine/burst.h"
 #include "engine/counting.h"
 #include "engine/dps.h"
-#include "engine/power.h"
 
 namespace vantorel {
 
@@ -69,23 +68,34 @@ void DecideArcsShown(Calculator& c) {
     }
 }
 
-void WorkOutBursts(Calculator& c, Vessel v) {
+void WorkOutBursts(Calculator& c, const VesselFactors& f, Vessel v) {
     CalculatorState& s = c.state;
-    s.ArcDPS[6][v] = CalculateBurst(c, FrontBurstCounts(s, v), v);
-    s.ArcDPS[7][v] = CalculateBurst(c, RearBurstCounts(s, v), v);
+    s.ArcDPS[6][v] = CalculateBurst(c, f, FrontBurstCounts(s, v), v);
+    s.ArcDPS[7][v] = CalculateBurst(c, f, RearBurstCounts(s, v), v);
     if (s.ArcDPS[6][v] > 0) s.ArcShown[12] = true;
     if (s.ArcDPS[7][v] > 0) s.ArcShown[13] = true;
 }
 
-void WorkOutRows(Calculator& c, Vessel v) {
+// The DPS of the six rows, and what their tooltips show.
+void WorkOutRows(Calculator& c, const VesselFactors& f, Vessel v, std::array<ArcToolTipInputs, 6>& tooltips) {
     CalculatorState& s = c.state;
-    const int distance = GetRange(c, v);
-    // Nothing that the factors or the power read changes while the rows are
-    // worked out, so both are read once for all six rows.
-    const VesselFactors factors = FactorsOf(c, v);
-    const int power = GetPowerLevel(c, v, Bonus::With);
-    for (int row = 0; row <= 5; ++row)
-        s.ArcDPS[row][v] = CalculateDPS(c, factors, {RowCounts(s, v, row), power, distance}, v, SkillEffect::Counted);
+    WeaponCounts counts[6];
+    for (int row = 0; row <= 5; ++row) {
+        counts[row] = RowCounts(s, v, row);
+        const auto r = static_cast<std::size_t>(row);
+        // A row of the same weapons as an earlier one has its DPS and
+        // tooltip: a vessel with few kinds of weapon fires the same set in
+        // several arcs.
+        const int same = SameSetBefore(counts, row);
+        if (same < row) {
+            s.ArcDPS[row][v] = s.ArcDPS[same][v];
+            tooltips[r] = tooltips[static_cast<std::size_t>(same)];
+            continue;
+        }
+        const RowResult result = CalculateRow(c, f, {counts[row], f.power, f.distance}, v);
+        s.ArcDPS[row][v] = result.dps;
+        tooltips[r] = result.tooltip;
+    }
 }
 
 } // namespace
@@ -94,18 +104,25 @@ void CalculateFiringArcs(Calculator& c) {
     const bool comparing = c.state.Comparing != 0;
     CountWeapons(c);
     DecideArcsShown(c);
-    WorkOutBursts(c, 1);
-    if (comparing) WorkOutBursts(c, 2);
+    // The factors read the settings, skills, power and distance of a vessel,
+    // which nothing below changes: showing the arcs only shows and hides
+    // boxes and rebuilds the shuttle rank lists, which no factor reads. So
+    // they are read once for the bursts, all six rows and their texts.
+    ArcRows rows;
+    rows.factors[1] = FactorsOf(c, 1);
+    if (comparing) rows.factors[2] = FactorsOf(c, 2);
+    WorkOutBursts(c, rows.factors[1], 1);
+    if (comparing) WorkOutBursts(c, rows.factors[2], 2);
     if (c.results.showArcs) c.results.showArcs(c);
     // A burst of shuttle arrays reads the grade in the shuttle rank list,
     // which the main window has only now rebuilt for the captain's rank: work
     // it out again with the grade it is shown with. The grade scales a burst
     // and never turns it to 0, so the boxes shown stay right.
     for (Vessel v = 1; v <= (comparing ? 2 : 1); ++v)
-        if (c.state.WeaponCount[Slot::ShuttleBeamArrays][v] > 0) WorkOutBursts(c, v);
-    WorkOutRows(c, 1);
-    if (comparing) WorkOutRows(c, 2);
-    if (c.results.showResults) c.results.showResults(c);
+        if (c.state.WeaponCount[Slot::ShuttleBeamArrays][v] > 0) WorkOutBursts(c, rows.factors[v], v);
+    WorkOutRows(c, rows.factors[1], 1, rows.tooltips[1]);
+    if (comparing) WorkOutRows(c, rows.factors[2], 2, rows.tooltips[2]);
+    if (c.results.showResults) c.results.showResults(c, rows);
 }
 
 ArcValues ArcsOf(const CalculatorState& s, Vessel v) {

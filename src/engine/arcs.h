@@ -4,6 +4,7 @@
 // the two bursts of each vessel on show, and the colours that compare them.
 // Every input of the program ends in CalculateFiringArcs.
 
+#include "engine/dps.h"
 #include "engine/records.h"
 
 #include <array>
@@ -15,6 +16,14 @@ namespace vantorel {
 // arcs' boxes (ResultsView::showArcs), works out the six rows of each vessel
 // on show, and lets the windows show the results (ResultsView::showResults).
 void CalculateFiringArcs(Calculator& c);
+
+// What a recalculation hands to the results view: the factors of each vessel
+// on show, which its bursts were worked out with, and the tooltips' inputs of
+// its six rows, worked out with their DPS.
+struct ArcRows {
+    PerVessel<VesselFactors> factors;
+    PerVessel<std::array<ArcToolTipInputs, 6>> tooltips;
+};
 
 // The six arc values of one vessel, rows 0 to 5 of ArcDPS: one line of the
 // graph.

@@ -3,7 +3,6 @@
 #include "engine/dps.h"
 #include "engine/modifiers.h"
 #include "engine/numbers.h"
-#include "engine/power.h"
 #include "engine/selection.h"
 
 #include <algorithm>
@@ -27,35 +26,6 @@ constexpr float kOverloadFactor[4] = {0, 6.041f, 7.253f, 8.467f};
 
 float MineFactor(int level) { return level >= 0 && level <= 3 ? kMineFactor[level] : 1.0f; }
 
-// One torpedo's damage factor under each level of the two torpedo skills.
-struct TorpedoFactors {
-    std::string_view type;
-    float highYield[3];
-    float spread[3];
-};
-
-constexpr TorpedoFactors kTorpedoFactors[] = {
-    {"Quantum", {2.227f, 2.585f, 2.947f}, {1.893f, 2.198f, 2.506f}},
-    {"Photon", {2.167f, 2.565f, 2.97f}, {1.843f, 2.182f, 2.524f}},
-    {"Plasma", {2.594f, 3.0f, 3.405f}, {1.832f, 2.169f, 2.51f}},
-    {"Chroniton", {1.723f, 1.97f, 2.219f}, {1.446f, 1.674f, 1.886f}},
-    {"Transphasic", {1.723f, 1.97f, 2.219f}, {1.464f, 1.674f, 1.886f}},
-};
-
-const TorpedoFactors* TorpedoFactorsOf(std::string_view type) {
-    for (const TorpedoFactors& row : kTorpedoFactors)
-        if (row.type == type) return &row;
-    return nullptr;
-}
-
-// The torpedo type without its trailing blank: "Quantum", "Plasma", ...
-std::string TorpedoType(const Calculator& c, Vessel v) {
-    std::string type = GetDamageType(c, v, DamageGroup::Projectile);
-    while (!type.empty() && type.back() == ' ')
-        type.pop_back();
-    return type;
-}
-
 // The one weapon that overloads: the first present of dual beam bank, beam
 // array, shuttle beam array. 0 for none.
 int OverloadWeapon(const BurstCounts& n) {
@@ -66,16 +36,14 @@ int OverloadWeapon(const BurstCounts& n) {
 }
 
 // Overload term before the last rounding: the plain DPS of that one weapon.
-float OverloadTerm(Calculator& c, int weapon, Vessel v) {
-    const int power = GetPowerLevel(c, v, Bonus::With);
-    const int distance = GetRange(c, v);
+float OverloadTerm(Calculator& c, const VesselFactors& f, int weapon, Vessel v) {
     FiringSet one;
     one.weapons.dualBeamBanks = weapon == 1 ? 1 : 0;
     one.weapons.beamArrays = weapon == 2 ? 1 : 0;
     one.weapons.shuttleBeamArrays = weapon == 3 ? 1 : 0;
-    one.power = power;
-    one.distance = distance;
-    const float dps = CalculateDPS(c, one, v, SkillEffect::Ignored);
+    one.power = f.power;
+    one.distance = f.distance;
+    const float dps = CalculateDPS(c, f, one, v, SkillEffect::Ignored);
     const CalculatorState& s = c.state;
     const float factor = kOverloadFactor[std::clamp<int>(s.BeamOverload[v], 0, 3)];
     // Applied a second time on purpose: the weapon's DPS holds both already.
@@ -91,120 +59,157 @@ float MineTerm(const Calculator& c, float critical, Vessel v) {
     return m * s.MineDamage[v] * critical * s.ResistanceFactor[v] * s.AccuracyFactor[v];
 }
 
-float TorpedoSkillOrOne(const Calculator& c, Vessel v) {
-    const CalculatorState& s = c.state;
-    return (s.TorpedoHighYield[v] > 0 || s.TorpedoSpread[v] > 0) ? GetTorpedoSkill(c, v) : 1.0f;
+// " (1 Target):", " (3 Targets):".
+void AppendTargets(std::string& out, int n) {
+    if (n == 1) {
+        out += " (1 Target):";
+        return;
+    }
+    out += " (";
+    AppendPlainText(out, n);
+    out += " Targets):";
 }
-
-std::string TargetsText(int n) { return n == 1 ? std::string(" (1 Target):") : " (" + PlainText(n) + " Targets):"; }
 
 } // namespace
 
-float TorpedoSkillFactor(std::string_view type, TorpedoSkill skill, int level) {
-    const TorpedoFactors* row = TorpedoFactorsOf(type);
-    if (row == nullptr || level < 1 || level > 3) return 1.0f;
-    return skill == TorpedoSkill::HighYield ? row->highYield[level - 1] : row->spread[level - 1];
-}
+float CalculateBurst(Calculator& c, const BurstCounts& n, Vessel v) { return CalculateBurst(c, FactorsOf(c, v), n, v); }
 
-float GetTorpedoSkill(const Calculator& c, Vessel v) {
-    const CalculatorState& s = c.state;
-    const std::string type = TorpedoType(c, v);
-    // Tricobalt, or no type at all: no skill multiplies it.
-    if (TorpedoFactorsOf(type) == nullptr) return 1.0f;
-
-    const int highYield = s.TorpedoHighYield[v];
-    if (highYield >= 1 && highYield <= 3) return TorpedoSkillFactor(type, TorpedoSkill::HighYield, highYield);
-    const int spread = s.TorpedoSpread[v];
-    if (spread >= 1 && spread <= 3) {
-        const int targets = std::min<int>(s.SkillTargets[v], 3 * spread);
-        return TorpedoSkillFactor(type, TorpedoSkill::Spread, spread) * static_cast<float>(targets);
-    }
-    return 1.0f;
-}
-
-float CalculateBurst(Calculator& c, const BurstCounts& n, Vessel v) {
+float CalculateBurst(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v) {
     const CalculatorState& s = c.state;
     float sum = 0.0f;
-    const float critical = CriticalMultiplier(c, v, Severity::Plain, 0.0f, 0.0f);
+    const float critical = f.critical;
 
     if (n.torpedoes > 0) {
-        const float t = TorpedoSkillOrOne(c, v);
-        float f = 1.0f;
-        if (TorpedoType(c, v) == "Plasma")
-            f = s.TorpedoHighYield[v] > 0 ? static_cast<float>(s.SkillTargets[v]) * kHeavyPlasmaBurn : kPlasmaBurn;
+        const float t = f.torpedoSkill;
+        float withBurn = 1.0f;
+        if (f.plasmaTorpedoes)
+            withBurn =
+                s.TorpedoHighYield[v] > 0 ? static_cast<float>(s.SkillTargets[v]) * kHeavyPlasmaBurn : kPlasmaBurn;
         if (RelativeMode(c))
-            sum = BaseProjectileDamage(c, v) * critical * f * s.ResistanceFactor[v] * s.AccuracyFactor[v] * t;
+            sum = BaseProjectileDamage(c, v) * critical * withBurn * s.ResistanceFactor[v] * s.AccuracyFactor[v] * t;
         else
-            sum = t * s.TorpedoDamage[v] * critical * f * s.ResistanceFactor[v] * s.AccuracyFactor[v];
+            sum = t * s.TorpedoDamage[v] * critical * withBurn * s.ResistanceFactor[v] * s.AccuracyFactor[v];
     }
     if (n.mines > 0) sum += MineTerm(c, critical, v);
     if (s.BeamOverload[v] > 0) {
         const int weapon = OverloadWeapon(n);
-        if (weapon != 0) sum += OverloadTerm(c, weapon, v);
+        if (weapon != 0) sum += OverloadTerm(c, f, weapon, v);
     }
     return Round(sum, 3);
 }
 
 std::string BurstToolTip(Calculator& c, const BurstCounts& n, Vessel v) {
-    const CalculatorState& s = c.state;
-    const float critical = CriticalMultiplier(c, v, Severity::Plain, 0.0f, 0.0f);
+    return BurstToolTip(c, FactorsOf(c, v), n, v);
+}
+
+std::string BurstToolTip(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v) {
     std::string text;
-    auto append = [&text](const std::string& part) {
-        if (!text.empty()) text += ", ";
-        text += part;
-    };
+    WriteBurstToolTip(text, BurstToolTipInputsOf(c, f, n, v));
+    return text;
+}
+
+BurstToolTipInputs BurstToolTipInputsOf(Calculator& c, const VesselFactors& f, const BurstCounts& n, Vessel v) {
+    const CalculatorState& s = c.state;
+    const float critical = f.critical;
+    BurstToolTipInputs in;
 
     if (n.torpedoes > 0) {
-        const std::string prefix = GetDamageType(c, v, DamageGroup::Projectile);
-        const bool plasma = TorpedoType(c, v) == "Plasma";
-        const float t = TorpedoSkillOrOne(c, v);
+        in.torpedoes = true;
+        in.typeWord = GetDamageType(c, v, DamageGroup::Projectile);
+        in.plasma = f.plasmaTorpedoes;
+        const float t = f.torpedoSkill;
         float d = RelativeMode(c) ? Round(BaseProjectileDamage(c, v) * t * critical, 3)
                                   : Round(t * s.TorpedoDamage[v] * critical, 3);
         d = d * s.ResistanceFactor[v] * s.AccuracyFactor[v];
-        const int highYield = s.TorpedoHighYield[v];
-        const int spread = s.TorpedoSpread[v];
-        // The targets that a spread can reach.
-        const int spreadTargets = std::min<int>(s.SkillTargets[v], spread + 1);
-
-        std::string part;
-        if (plasma && highYield > 0) {
-            const int n = s.SkillTargets[v];
-            d = static_cast<float>(n) * d * s.ResistanceFactor[v] * s.AccuracyFactor[v];
-            const float burn = Round(d * kHeavyBurnShare, 3);
-            part = "Heavy Plasma Torpedo" + SignedText(highYield) + TargetsText(n) + SignedText(d);
-            part += ", Plasma Burn" + TargetsText(n) + SignedText(burn);
-        } else {
-            if (highYield > 0)
-                part = prefix + "Torpedo Salvo" + SignedText(highYield) + ":";
-            else if (spread > 0)
-                part = prefix + "Torpedo Spread" + SignedText(spread) + TargetsText(spreadTargets);
-            else
-                part = prefix + "Torpedo:";
-            part += SignedText(d);
-            if (plasma) {
-                const float burn = Round(d * kBurnShare, 3) * s.ResistanceFactor[v] * s.AccuracyFactor[v];
-                part += ", Plasma Burn (33% Chance):" + SignedText(Round(burn / kBurnChance, 3)) + " (" +
-                        PlainText(burn) + ")";
-            }
+        in.highYield = s.TorpedoHighYield[v];
+        in.spread = s.TorpedoSpread[v];
+        in.targets = s.SkillTargets[v];
+        if (in.plasma && in.highYield > 0) {
+            d = static_cast<float>(in.targets) * d * s.ResistanceFactor[v] * s.AccuracyFactor[v];
+            in.burn = Round(d * kHeavyBurnShare, 3);
+        } else if (in.plasma) {
+            in.burn = Round(d * kBurnShare, 3) * s.ResistanceFactor[v] * s.AccuracyFactor[v];
         }
-        append(part);
+        in.damage = d;
     }
 
     if (n.mines > 0) {
-        const int level = s.MineSkill[v];
-        const std::string name = level > 0 ? "Mine Dispersal Pattern" + SignedText(level) + ":" : "Mine Cluster:";
-        append(name + SignedText(MineTerm(c, critical, v)));
+        in.mines = true;
+        in.mineLevel = s.MineSkill[v];
+        in.mineDamage = MineTerm(c, critical, v);
     }
 
     const int overload = s.BeamOverload[v];
-    if (overload > 0) {
-        const int weapon = OverloadWeapon(n);
-        static const char* const kNames[4] = {"", "Dual Beam Bank Overload", "Beam Array Overload",
-                                              "Shuttle Beam Array Overload"};
-        if (weapon != 0)
-            append(kNames[weapon] + SignedText(overload) + ":" + SignedText(Round(OverloadTerm(c, weapon, v), 3)));
+    const int weapon = overload > 0 ? OverloadWeapon(n) : 0;
+    if (weapon != 0) {
+        in.overloadWeapon = weapon;
+        in.overloadLevel = overload;
+        in.overloadDamage = Round(OverloadTerm(c, f, weapon, v), 3);
     }
-    return text;
+    return in;
+}
+
+void WriteBurstToolTip(std::string& out, const BurstToolTipInputs& in) {
+    auto nextEntry = [&out] {
+        if (!out.empty()) out += ", ";
+    };
+
+    if (in.torpedoes) {
+        nextEntry();
+        if (in.plasma && in.highYield > 0) {
+            out += "Heavy Plasma Torpedo";
+            AppendSignedText(out, in.highYield);
+            AppendTargets(out, in.targets);
+            AppendSignedText(out, in.damage);
+            out += ", Plasma Burn";
+            AppendTargets(out, in.targets);
+            AppendSignedText(out, in.burn);
+        } else {
+            out += in.typeWord;
+            if (in.highYield > 0) {
+                out += "Torpedo Salvo";
+                AppendSignedText(out, in.highYield);
+                out += ':';
+            } else if (in.spread > 0) {
+                out += "Torpedo Spread";
+                AppendSignedText(out, in.spread);
+                // The targets that a spread can reach.
+                AppendTargets(out, std::min(in.targets, in.spread + 1));
+            } else {
+                out += "Torpedo:";
+            }
+            AppendSignedText(out, in.damage);
+            if (in.plasma) {
+                out += ", Plasma Burn (33% Chance):";
+                AppendSignedText(out, Round(in.burn / kBurnChance, 3));
+                out += " (";
+                AppendPlainText(out, in.burn);
+                out += ')';
+            }
+        }
+    }
+
+    if (in.mines) {
+        nextEntry();
+        if (in.mineLevel > 0) {
+            out += "Mine Dispersal Pattern";
+            AppendSignedText(out, in.mineLevel);
+            out += ':';
+        } else {
+            out += "Mine Cluster:";
+        }
+        AppendSignedText(out, in.mineDamage);
+    }
+
+    if (in.overloadWeapon != 0) {
+        static constexpr std::string_view kNames[4] = {"", "Dual Beam Bank Overload", "Beam Array Overload",
+                                                       "Shuttle Beam Array Overload"};
+        nextEntry();
+        out += kNames[in.overloadWeapon];
+        AppendSignedText(out, in.overloadLevel);
+        out += ':';
+        AppendSignedText(out, in.overloadDamage);
+    }
 }
 
 } // namespace vantorel

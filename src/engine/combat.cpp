@@ -22,26 +22,6 @@ constexpr double kPatternChancePerSkill[4] = {0, 0.012, 0.016, 0.02};
 constexpr double kPatternSeverity[4] = {0, 12, 16, 20};
 constexpr double kPatternSeverityPerSkill[4] = {0, 0.12, 0.16, 0.2};
 
-// The level in a skill box. The critical factor asks for the attack pattern
-// skill on every DPS of every row, so the usual box ("9", " 7 ") is read
-// without the general number parser; anything else goes through it.
-int SkillLevel(const Text& box) {
-    const std::string& t = box.text();
-    std::size_t i = 0, end = t.size();
-    while (i < end && t[i] == ' ')
-        ++i;
-    while (end > i && t[end - 1] == ' ')
-        --end;
-    if (end > i && end - i <= 4) {
-        int level = 0;
-        std::size_t k = i;
-        for (; k < end && t[k] >= '0' && t[k] <= '9'; ++k)
-            level = level * 10 + (t[k] - '0');
-        if (k == end) return level;
-    }
-    return WholeNumberOf(t);
-}
-
 int CountMods(const VesselSettings& s, int mod) {
     int n = 0;
     for (int i = 1; i <= 3; ++i)
@@ -71,8 +51,9 @@ double GetAttackPatternSkill(const Calculator& c, Vessel v) {
         if (rank == 2) return 48.0;
         return 18.0;
     }
-    float skill = SkillPoints(1, SkillLevel(s.CriticalSkill[1])) + SkillPoints(2, SkillLevel(s.CriticalSkill[2])) +
-                  SkillPoints(3, SkillLevel(s.CriticalSkill[3]));
+    float skill = SkillPoints(1, WholeNumberOf(s.CriticalSkill[1].text())) +
+                  SkillPoints(2, WholeNumberOf(s.CriticalSkill[2].text())) +
+                  SkillPoints(3, WholeNumberOf(s.CriticalSkill[3].text()));
     const int item = s.CriticalItem.index();
     if (item == 1 || item == 3) skill += 10.0f;
     return skill;

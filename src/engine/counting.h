@@ -57,6 +57,14 @@ void CountWeapons(Calculator& c);
 // Forward 110, the pocket or broadside, Rear Pocket, Rear 110. Turrets and
 // shuttle arrays fire in every arc.
 WeaponCounts RowCounts(const CalculatorState& s, Vessel v, int row);
+// The first of rows 0 to `row` whose set equals that of `row`: `row` itself
+// where no earlier row has the same weapons.
+inline int SameSetBefore(const WeaponCounts (&rows)[6], int row) {
+    int same = 0;
+    while (same < row && !(rows[same] == rows[row]))
+        ++same;
+    return same;
+}
 // The burst sets: the forward torpedoes with the forward beams, the rear
 // torpedoes and mines with the rear beams.
 BurstCounts FrontBurstCounts(const CalculatorState& s, Vessel v);

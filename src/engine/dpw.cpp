@@ -80,6 +80,22 @@ Curve CurveOf(int count, int kind) {
     return kByCount[count - 2][kind - 1];
 }
 
+CurveValues ReadCurves() {
+    CalculatorState tables;
+    FillDPWTables(tables);
+    CurveValues v{};
+    for (int power = 35; power <= 125; ++power)
+        for (int kind = 1; kind <= 6; ++kind)
+            for (int count = 2; count <= 8; ++count)
+                v.at[power - 35][kind - 1][count - 2] = ReadCurve(tables, power, kind, count);
+    return v;
+}
+
+} // namespace
+
+// Read once, at start: no reading has to check that the table is filled.
+const CurveValues kCurveValues = ReadCurves();
+
 double ReadCurve(const CalculatorState& s, int power, int kind, int count) {
     const double* k = s.DPWCoefficient[kind][count];
     const double p = power;
@@ -92,29 +108,6 @@ double ReadCurve(const CalculatorState& s, int power, int kind, int count) {
     sum = sum + k[5];
     return Round(sum, 3);
 }
-
-// The curves read at every whole power 35..125: [power - 35][kind - 1][count - 2].
-struct CurveValues {
-    double at[91][6][7];
-};
-
-// Every DPS of every arc reads the curves, so they are read once, from the
-// same constant table the start-up fills the state with.
-const CurveValues& ReadCurves() {
-    static const CurveValues values = [] {
-        CalculatorState tables;
-        FillDPWTables(tables);
-        CurveValues v{};
-        for (int power = 35; power <= 125; ++power)
-            for (int kind = 1; kind <= 6; ++kind)
-                for (int count = 2; count <= 8; ++count)
-                    v.at[power - 35][kind - 1][count - 2] = ReadCurve(tables, power, kind, count);
-        return v;
-    }();
-    return values;
-}
-
-} // namespace
 
 void FillDPWTables(CalculatorState& s) {
     static constexpr float kSingle[6] = {135.387f, 134.039f, 126.036f, 110.938f, 96.735f, 69.41f};
@@ -130,23 +123,6 @@ void FillDPWTables(CalculatorState& s) {
             row[5] = q.e;
         }
     }
-}
-
-DPW DPWCalc(const CalculatorState& s, int power, int kind, int count) {
-    DPW out;
-    if (count == 0) return out;
-    if (count == 1) {
-        // A lone weapon drains nobody else's power: linear in power, one
-        // rounding to single at the end.
-        const double p = static_cast<double>(static_cast<float>(power));
-        out.type = DPW::Type::Single;
-        out.single = static_cast<float>(p * static_cast<double>(s.SingleWeaponDPW[kind]) / 100.0);
-        return out;
-    }
-    out.type = DPW::Type::Double;
-    out.dbl = power >= 35 && power <= 125 ? ReadCurves().at[power - 35][kind - 1][count - 2]
-                                          : ReadCurve(s, power, kind, count);
-    return out;
 }
 
 } // namespace vantorel

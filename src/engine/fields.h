@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -238,14 +239,23 @@ class Label : public Control {
 
     const std::string& caption() const { return m_caption; }
     const std::string& tooltip() const { return m_tooltip; }
-    void setCaption(std::string s) { update(m_caption, std::move(s)); }
-    void setTooltip(std::string s) { update(m_tooltip, std::move(s)); }
+    // Results are written to their boxes on every recalculation, mostly the
+    // same as before: the new text is compared in place and copied into the
+    // label's own buffer only when it differs.
+    void setCaption(std::string_view s) { updateText(m_caption, s); }
+    void setTooltip(std::string_view s) { updateText(m_tooltip, s); }
     // The size of the caption's font in points; 0 keeps the size the window
     // gave the label. Only captions that the program resizes set it.
     double fontSize() const { return m_fontSize; }
     void setFontSize(double points) { update(m_fontSize, points); }
 
   private:
+    void updateText(std::string& member, std::string_view value) {
+        if (member == value) return;
+        member.assign(value);
+        changed();
+    }
+
     std::string m_caption;
     std::string m_tooltip;
     double m_fontSize = 0.0;

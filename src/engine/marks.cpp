@@ -82,6 +82,10 @@ float GetRankMark(const Calculator& c, Vessel v) {
 }
 
 float ShuttleArrayModifier(const Calculator& c, Vessel v, int count) {
+    return ShuttleArrayModifier(c, CriticalRatesOf(c, v), v, count);
+}
+
+float ShuttleArrayModifier(const Calculator& c, const CriticalRates& rates, Vessel v, int count) {
     const bool rare = c.main.ShuttleMod[v].value() == 1;
     if (!RelativeMode(c)) {
         // The beam modifier already holds the vessel's mark; a shuttle array
@@ -91,7 +95,7 @@ float ShuttleArrayModifier(const Calculator& c, Vessel v, int count) {
         m = m + (GetRankMark(c, v) * 8.0f / 50.0f) * kMarkScale;
         if (rare) {
             m = m + (7.2 / 50 * 0.8889786005020142) / count;
-            m = m * PartialCriticalBonus(c, v, RareArrayBonus(count));
+            m = m * PartialCriticalBonus(rates, RareArrayBonus(count));
         }
         return static_cast<float>(m * 0.76);
     }
@@ -111,13 +115,17 @@ float ShuttleArrayModifier(const Calculator& c, Vessel v, int count) {
     // From Rear Admiral on, a rank has five grades instead of ten.
     if (rank >= 5) increment = increment * 2.0f;
     float modifier = low + increment * static_cast<float>(step);
-    if (rare) modifier = modifier * PartialCriticalBonus(c, v, RareArrayBonus(count));
+    if (rare) modifier = modifier * PartialCriticalBonus(rates, RareArrayBonus(count));
     return modifier;
 }
 
 float PartialCriticalBonus(const Calculator& c, Vessel v, const PartialCritical& bonus) {
-    const float with = CriticalMultiplier(c, v, bonus.boost, bonus.chance, bonus.severity);
-    const float without = CriticalMultiplier(c, v, bonus.boost, 0.0f, 0.0f);
+    return PartialCriticalBonus(CriticalRatesOf(c, v), bonus);
+}
+
+float PartialCriticalBonus(const CriticalRates& rates, const PartialCritical& bonus) {
+    const float with = CriticalMultiplier(rates, bonus.boost, bonus.chance, bonus.severity);
+    const float without = CriticalMultiplier(rates, bonus.boost, 0.0f, 0.0f);
     return ((with / without - 1.0f) * bonus.share / static_cast<float>(bonus.weapons)) + 1.0f;
 }
 

@@ -26,6 +26,7 @@ constexpr int kDmgMod = 4;
 
 // Skill level from a weapon skill box: a typed "7.9" is level 7.
 int TruncatedLevel(const Text& box) {
+    if (const auto digits = PlainDigits(box.text())) return *digits;
     const auto value = NumericValue(box.text());
     if (!value) return 0;
     const double whole = std::trunc(*value);
@@ -42,22 +43,29 @@ struct BreakdownInfo {
     int alphaLevel, omegaLevel, teamLevel;
 };
 
-// Writes caption and breakdown of one box. The factor's type matters: the
-// fractional factors are doubles, so their products are formed in double.
+// The breakdown of one box. The factor's type matters: the fractional
+// factors are doubles, so their products are formed in double.
 template <typename T, typename F>
-void FillBox(Label& box, float total, F f, const Pieces<T>& p, const BreakdownInfo& info) {
-    auto number = [f](T part) { return SignedText(Round(part * f, 1)); };
-    std::string tip;
-    tip.reserve(200);
-    tip += "Base Damage:" + number(p.base);
-    tip += ", Mark Bonus:" + number(p.mark);
-    tip += ", Skill Bonus: " + number(p.skill);
-    tip += ", Console Bonus: " + number(p.console);
-    tip += ", accolade bonus: " + number(p.accolade);
+void WriteBreakdown(std::string& tip, F f, const Pieces<T>& p, const BreakdownInfo& info) {
+    auto number = [&tip, f](T part) { AppendSignedText(tip, Round(part * f, 1)); };
+    tip += "Base Damage:";
+    number(p.base);
+    tip += ", Mark Bonus:";
+    number(p.mark);
+    tip += ", Skill Bonus: ";
+    number(p.skill);
+    tip += ", Console Bonus: ";
+    number(p.console);
+    tip += ", accolade bonus: ";
+    number(p.accolade);
     if (info.damageMods > 0) {
         tip += ", Weapon Mod [Dmg]";
-        if (info.damageMods > 1) tip += 'x' + PlainText(info.damageMods);
-        tip += ':' + number(p.damage);
+        if (info.damageMods > 1) {
+            tip += 'x';
+            AppendPlainText(tip, info.damageMods);
+        }
+        tip += ':';
+        number(p.damage);
     }
     // Shown on both vessels: the totals of both hold the rarity bonus, and a
     // breakdown whose parts do not add up to its caption explains nothing.
@@ -65,14 +73,38 @@ void FillBox(Label& box, float total, F f, const Pieces<T>& p, const BreakdownIn
         const char* name = info.rarityMods == 0.25f ? "Unc." : info.rarityMods == 0.5f ? "Rare" : "V.Rare";
         tip += ", Weapon Rarity (";
         tip += name;
-        tip += "):" + number(p.rarity);
+        tip += "):";
+        number(p.rarity);
     }
-    if (info.alphaLevel > 0) tip += ", Attack Pattern Alpha" + SignedText(info.alphaLevel) + ':' + number(p.alpha);
-    if (info.omegaLevel > 0) tip += ", Attack Pattern Omega" + SignedText(info.omegaLevel) + ':' + number(p.omega);
-    if (info.teamLevel > 0) tip += ", Tactical Team" + SignedText(info.teamLevel) + ':' + number(p.team);
+    auto skill = [&](const char* name, int level, T part) {
+        if (level <= 0) return;
+        tip += name;
+        AppendSignedText(tip, level);
+        tip += ':';
+        number(part);
+    };
+    skill(", Attack Pattern Alpha", info.alphaLevel, p.alpha);
+    skill(", Attack Pattern Omega", info.omegaLevel, p.omega);
+    skill(", Tactical Team", info.teamLevel, p.team);
+}
 
-    box.setCaption(PlainText(Round(total * f, 0)));
-    box.setTooltip(std::move(tip));
+// Writes caption and breakdown of one box, each kept with its inputs, as
+// ModifiedDPS runs on every change of power.
+template <typename T, typename F>
+void FillBox(Label& box, DamageBoxTexts& kept, float total, F f, const Pieces<T>& p, const BreakdownInfo& info) {
+    const DamageCaptionInputs caption{static_cast<double>(f), total};
+    box.setCaption(kept.caption.of(
+        caption, [&](std::string& text, const DamageCaptionInputs&) { AppendPlainText(text, Round(total * f, 0)); }));
+    const DamageBoxInputs breakdown{
+        static_cast<double>(f),
+        {p.base, p.mark, p.skill, p.console, p.accolade, p.damage, p.rarity, p.alpha, p.omega, p.team},
+        info.damageMods,
+        info.rarityMods,
+        info.alphaLevel,
+        info.omegaLevel,
+        info.teamLevel};
+    box.setTooltip(kept.breakdown.of(
+        breakdown, [&](std::string& tip, const DamageBoxInputs&) { WriteBreakdown(tip, f, p, info); }));
 }
 
 } // namespace
@@ -223,28 +255,33 @@ void ModifiedDPS(Calculator& c, Vessel v) {
         *value = (static_cast<float>(power) * *value) / 50;
 
     VesselSettings& out = c.settings[v];
-    out.DisplayedDPSLabel[1].setCaption("Displayed DPS (" + PlainText(power) + " Weapon Power)");
+    Indexed<DamageBoxTexts, 1, 7>& kept = c.kept.damageBoxes[v];
+    out.DisplayedDPSLabel[1].setCaption(c.kept.displayedDPSCaptions[v].of(power, [](std::string& text, int p) {
+        text += "Displayed DPS (";
+        AppendPlainText(text, p);
+        text += " Weapon Power)";
+    }));
 
     const BreakdownInfo info{dmgCount, rarityMods, alphaLevel, omegaLevel, team};
     const Pieces<float> cannon{base,        markBonus,   skillCannon, consoleCannon, energyAccolade,
                                damageBonus, rarityBonus, alphaEnergy, omegaEnergy,   teamEnergy};
     const Pieces<float> beam{base,        markBonus,   skillBeam,   consoleBeam, energyAccolade,
                              damageBonus, rarityBonus, alphaEnergy, omegaEnergy, teamEnergy};
-    FillBox(out.CalculatedWeaponDPS[1], cannonTotal, 1.45, cannon, info);
-    FillBox(out.CalculatedWeaponDPS[2], beamTotal, 1.3, beam, info);
-    FillBox(out.CalculatedWeaponDPS[3], cannonTotal, 1.2, cannon, info);
-    FillBox(out.CalculatedWeaponDPS[4], beamTotal, 1, beam, info);
-    FillBox(out.CalculatedWeaponDPS[5], cannonTotal, 0.75, cannon, info);
+    FillBox(out.CalculatedWeaponDPS[1], kept[1], cannonTotal, 1.45, cannon, info);
+    FillBox(out.CalculatedWeaponDPS[2], kept[2], beamTotal, 1.3, beam, info);
+    FillBox(out.CalculatedWeaponDPS[3], kept[3], cannonTotal, 1.2, cannon, info);
+    FillBox(out.CalculatedWeaponDPS[4], kept[4], beamTotal, 1, beam, info);
+    FillBox(out.CalculatedWeaponDPS[5], kept[5], cannonTotal, 0.75, cannon, info);
 
     const Pieces<float> torpedoPieces{projectileBase, markShare,   skillTorpedo, consoleTorpedo, accoladeShare,
                                       damageShare,    rarityShare, alphaShare,   omegaShare,     teamProjectile};
-    FillBox(out.CalculatedWeaponDPS[6], st.TorpedoDamage[v], 1, torpedoPieces, info);
+    FillBox(out.CalculatedWeaponDPS[6], kept[6], st.TorpedoDamage[v], 1, torpedoPieces, info);
     // The mine total carries a factor 1.25, so its pieces do too.
     auto mines = [](float x) { return x * 1.25; };
     const Pieces<double> minePieces{mines(projectileBase), mines(markShare),     mines(skillMine),   mines(consoleMine),
                                     mines(accoladeShare),  mines(damageShare),   mines(rarityShare), mines(alphaShare),
                                     mines(omegaShare),     mines(teamProjectile)};
-    FillBox(out.CalculatedWeaponDPS[7], st.MineDamage[v], 1, minePieces, info);
+    FillBox(out.CalculatedWeaponDPS[7], kept[7], st.MineDamage[v], 1, minePieces, info);
 
     CalculateFiringArcs(c);
 }

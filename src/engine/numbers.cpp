@@ -237,7 +237,7 @@ double NumericOr(std::string_view text, double fallback) {
     return v ? *v : fallback;
 }
 
-int WholeNumberOf(std::string_view text, int fallback) {
+int WholeNumberOfText(std::string_view text, int fallback) {
     auto v = NumericValue(text);
     if (!v) return fallback;
     if (*v > 32767.0 || *v < -32768.0) return fallback;
@@ -295,8 +295,12 @@ std::string SignedText(float x) { return Signed(General(x, 7)); }
 std::string SignedText(double x) { return Signed(General(x, 15)); }
 std::string SignedText(int x) { return Signed(IntegerDigits(x)); }
 
+void AppendPlainText(std::string& out, float x) { out += General(x, 7).view(); }
+void AppendPlainText(std::string& out, double x) { out += General(x, 15).view(); }
 void AppendPlainText(std::string& out, int x) { out += IntegerDigits(x).view(); }
 void AppendSignedText(std::string& out, float x) { AppendSigned(out, General(x, 7)); }
+void AppendSignedText(std::string& out, double x) { AppendSigned(out, General(x, 15)); }
+void AppendSignedText(std::string& out, int x) { AppendSigned(out, IntegerDigits(x)); }
 
 std::string ShortestText(float x) {
     char buf[64];

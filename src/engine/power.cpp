@@ -24,8 +24,17 @@ int SnapToTested(int p) {
 }
 
 // The setting in a power row: the leading number of its first three
-// characters ("100 (115) est." is setting 100).
-int SettingOfRow(const std::string& text) { return WholeNumber(LeadingValue(std::string_view(text).substr(0, 3))); }
+// characters ("100 (115) est." is setting 100). Every DPS reads it; three
+// plain digits, the usual case, are read directly.
+int SettingOfRow(const std::string& text) {
+    const std::string_view head = std::string_view(text).substr(0, 3);
+    int setting = 0;
+    for (const char ch : head) {
+        if (ch < '0' || ch > '9') return WholeNumber(LeadingValue(head));
+        setting = setting * 10 + (ch - '0');
+    }
+    return head.empty() ? 0 : setting;
+}
 
 bool Extrapolates(const Calculator& c, Vessel v) { return c.settings[v].ExtrapolatePower.value() == 1; }
 

@@ -12,6 +12,7 @@
 // their modules; the values here are those the engine itself starts from.
 
 #include "engine/fields.h"
+#include "engine/kept.h"
 #include "engine/windows.h"
 
 #include <cstdint>
@@ -162,6 +163,7 @@ class Random {
 };
 
 struct Calculator;
+struct ArcRows; // engine/arcs.h
 
 // How a recalculation reaches the windows. The engine works out the numbers
 // of the firing arcs; the main window shows them. The program sets both steps
@@ -170,8 +172,9 @@ struct ResultsView {
     // The arcs in use are decided: show their boxes and rebuild the shuttle
     // rank lists, whose selection the DPS of the rows then reads.
     void (*showArcs)(Calculator&) = nullptr;
-    // The rows are worked out: captions, tooltips, colours, the note, the graph.
-    void (*showResults)(Calculator&) = nullptr;
+    // The rows are worked out: captions, tooltips, colours, the note, the
+    // graph, from what the recalculation hands over with them.
+    void (*showResults)(Calculator&, const ArcRows& rows) = nullptr;
 };
 
 // Everything the program knows. `main` (or a test, or the CLI) owns one,
@@ -193,6 +196,8 @@ struct Calculator {
     SplashWindow splash;
     Random random;
     ResultsView results;
+    // Texts and counts of past recalculations, with their inputs (engine/kept.h).
+    Kept kept;
 
     // Work area of the primary screen in twips, given by the front end.
     int workLeft = 0, workTop = 0, workWidth = 19200, workHeight = 15600;

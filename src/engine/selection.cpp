@@ -9,9 +9,10 @@ namespace vantorel {
 
 namespace {
 
-constexpr const char* kEnergyWords[6] = {"Phaser ", "Disruptor ", "Plasma ", "Tetryon ", "Polaron ", "Antiproton "};
-constexpr const char* kProjectileWords[6] = {"Photon ",    "Quantum ",     "Plasma ",
-                                             "Chroniton ", "Transphasic ", "Tricobalt "};
+constexpr std::string_view kEnergyWords[6] = {"Phaser ",  "Disruptor ", "Plasma ",
+                                              "Tetryon ", "Polaron ",   "Antiproton "};
+constexpr std::string_view kProjectileWords[6] = {"Photon ",    "Quantum ",     "Plasma ",
+                                                  "Chroniton ", "Transphasic ", "Tricobalt "};
 
 // Alpha's level 100 lets every rank gate through.
 constexpr int kNoRankLimit = 100;
@@ -118,7 +119,7 @@ int GetSubclass(const Calculator& c, Vessel v) {
     return std::max(subclass, 0);
 }
 
-std::string GetDamageType(const Calculator& c, Vessel v, DamageGroup group) {
+std::string_view GetDamageType(const Calculator& c, Vessel v, DamageGroup group) {
     // Relative DPS measures every energy weapon against one untyped beam
     // array; projectiles keep their type.
     if (group == DamageGroup::Energy && RelativeMode(c)) return {};

@@ -53,7 +53,8 @@ int GetSubclass(const Calculator& c, Vessel v);
 enum class DamageGroup { Energy = 1, Projectile = 2 };
 // The type word that port texts begin with, blank included ("Phaser ",
 // "Quantum "), or "" where there is none: energy weapons have no type in
-// Relative DPS mode.
-std::string GetDamageType(const Calculator& c, Vessel v, DamageGroup group);
+// Relative DPS mode. A view of a constant text: every count of the weapons
+// reads it, so it is never copied.
+std::string_view GetDamageType(const Calculator& c, Vessel v, DamageGroup group);
 
 } // namespace vantorel

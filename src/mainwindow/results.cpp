@@ -6,7 +6,6 @@
 #include "engine/counting.h"
 #include "engine/dps.h"
 #include "engine/numbers.h"
-#include "engine/power.h"
 #include "engine/selection.h"
 #include "mainwindow/shipimage.h"
 #include "mainwindow/tooltips.h"
@@ -37,32 +36,40 @@ void ShowSide(Indexed<Picture, 0, 11>& arcs, Indexed<Label, 0, 13>& labels, Inde
     }
 }
 
-// The values and tooltips of one vessel's boxes.
-void ShowRows(Calculator& c, Vessel v) {
+// The values and tooltips of one vessel's boxes. Each text is taken from
+// the vessel's kept texts, which write it again only for new inputs.
+void ShowRows(Calculator& c, const ArcRows& rows, Vessel v) {
     const CalculatorState& s = c.state;
     MainSelection& m = c.main;
-    const int distance = GetRange(c, v);
-    const VesselFactors factors = FactorsOf(c, v);
-    const int power = GetPowerLevel(c, v, Bonus::With);
-    std::string tips[6];
-    for (int row = 0; row <= 5; ++row)
-        tips[row] = CalculateToolTip(c, factors, {RowCounts(s, v, row), power, distance}, v);
+    ArcBoxTexts& kept = c.kept.arcBoxes[v];
+    const VesselFactors& factors = rows.factors[v];
+
+    const std::string* tips[6];
+    for (std::size_t row = 0; row < 6; ++row)
+        tips[row] = &kept.tooltips[row].of(rows.tooltips[v][row], WriteToolTip);
+    const std::string* values[8];
+    for (int row = 0; row <= 7; ++row) {
+        values[row] = &kept.captions[static_cast<std::size_t>(row)].of(
+            s.ArcDPS[row][v], [](std::string& out, float value) { AppendPlainText(out, value); });
+    }
 
     Indexed<Label, 0, 13>& boxes = v == 1 ? m.FiringArcDPS : m.CFiringArcDPS;
     for (int i = 0; i <= 11; ++i) {
-        boxes[i].setCaption(PlainText(s.ArcDPS[kBoxRow[i]][v]));
-        boxes[i].setTooltip(tips[kBoxTipRow[i]]);
+        boxes[i].setCaption(*values[kBoxRow[i]]);
+        boxes[i].setTooltip(*tips[kBoxTipRow[i]]);
     }
     if (m.Simplified.value() == 1) {
         for (int k = 0; k < 3; ++k) {
-            boxes[kSimpleBox[k]].setCaption(PlainText(s.ArcDPS[kSimpleRow[k]][v]));
-            boxes[kSimpleBox[k]].setTooltip(tips[kSimpleRow[k]]);
+            boxes[kSimpleBox[k]].setCaption(*values[kSimpleRow[k]]);
+            boxes[kSimpleBox[k]].setTooltip(*tips[kSimpleRow[k]]);
         }
     }
-    boxes[12].setCaption(PlainText(s.ArcDPS[6][v]));
-    boxes[12].setTooltip(BurstToolTip(c, FrontBurstCounts(s, v), v));
-    boxes[13].setCaption(PlainText(s.ArcDPS[7][v]));
-    boxes[13].setTooltip(BurstToolTip(c, RearBurstCounts(s, v), v));
+    boxes[12].setCaption(*values[6]);
+    boxes[12].setTooltip(
+        kept.burstTooltips[0].of(BurstToolTipInputsOf(c, factors, FrontBurstCounts(s, v), v), WriteBurstToolTip));
+    boxes[13].setCaption(*values[7]);
+    boxes[13].setTooltip(
+        kept.burstTooltips[1].of(BurstToolTipInputsOf(c, factors, RearBurstCounts(s, v), v), WriteBurstToolTip));
 }
 
 std::string ShuttleRankName(int faction, int level) {
@@ -108,12 +115,12 @@ void ShowArcBoxes(Calculator& c) {
     if (c.state.Comparing != 0) ShuttleRankControls(c, 2);
 }
 
-void ShowArcResults(Calculator& c) {
+void ShowArcResults(Calculator& c, const ArcRows& rows) {
     const CalculatorState& s = c.state;
     MainSelection& m = c.main;
-    ShowRows(c, 1);
+    ShowRows(c, rows, 1);
     if (s.Comparing != 0) {
-        ShowRows(c, 2);
+        ShowRows(c, rows, 2);
         if (m.Simplified.value() == 1) {
             for (int k = 0; k < 3; ++k)
                 DifferenceColor(c, kSimpleBox[k], s.ArcDPS[kSimpleRow[k]][1], s.ArcDPS[kSimpleRow[k]][2]);

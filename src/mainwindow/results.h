@@ -13,8 +13,9 @@ namespace vantorel {
 void ShowArcBoxes(Calculator& c);
 // The shuttle rank list of vessel v, rebuilt for its captain's rank.
 void ShuttleRankControls(Calculator& c, Vessel v);
-// Captions and tooltips of every box, colours, the note.
-void ShowArcResults(Calculator& c);
+// Captions and tooltips of every box, colours, the note, from what the
+// recalculation hands over with the rows.
+void ShowArcResults(Calculator& c, const ArcRows& rows);
 // The one message of the note, or none.
 void UpdateNote(Calculator& c);
 

@@ -1,53 +1,51 @@
 #include "mainwindow/tooltips.h"
 
-#include "engine/dpw.h"
 #include "engine/numbers.h"
-#include "engine/selection.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace vantorel {
 
 namespace {
 
-// The product of one entry, in the order of the formula. Each step takes the
-// wider type: all single for a lone weapon, double once the DPW is a double.
-template <typename T>
-float EntryValue(T dpw, int count, float range, float skill, float modifier, float critical, float resistance,
-                 float accuracy) {
-    const auto value = dpw * static_cast<T>(count) * range * skill * modifier * critical * resistance * accuracy;
-    return Round(static_cast<float>(value), 3);
-}
-
-float EntryValue(const DPW& dpw, int count, float range, float skill, float modifier, float critical, float resistance,
-                 float accuracy) {
-    switch (dpw.type) {
-    case DPW::Type::Double:
-        return EntryValue(dpw.dbl, count, range, skill, modifier, critical, resistance, accuracy);
-    case DPW::Type::Single:
-        return EntryValue(dpw.single, count, range, skill, modifier, critical, resistance, accuracy);
-    case DPW::Type::Zero:
-        break;
+// " (Rapid Fire 2):", " (Scatter Volley 1, 2 Targets):" or ":".
+void AppendCannonSkill(std::string& out, const ArcToolTipInputs& in) {
+    if (in.rapidFire > 0) {
+        out += " (Rapid Fire";
+        AppendSignedText(out, static_cast<int>(in.rapidFire));
+        out += "):";
+    } else if (in.scatterVolley > 0) {
+        out += " (Scatter Volley";
+        AppendSignedText(out, static_cast<int>(in.scatterVolley));
+        if (in.targets < 2) {
+            out += ", 1 Target):";
+        } else {
+            // A volley reaches three targets at most.
+            out += ',';
+            AppendSignedText(out, std::min<int>(in.targets, 3));
+            out += " Targets):";
+        }
+    } else {
+        out += ':';
     }
-    return 0.0f;
 }
 
-std::string CannonSkillPart(const CalculatorState& s, Vessel v) {
-    if (s.RapidFire[v] > 0) return " (Rapid Fire" + SignedText(static_cast<int>(s.RapidFire[v])) + "):";
-    if (s.ScatterVolley[v] > 0) {
-        const std::string head = " (Scatter Volley" + SignedText(static_cast<int>(s.ScatterVolley[v]));
-        if (s.SkillTargets[v] < 2) return head + ", 1 Target):";
-        // A volley reaches three targets at most.
-        return head + "," + SignedText(std::min<int>(s.SkillTargets[v], 3)) + " Targets):";
+// " (Fire At Will 1, 1 Target):" or ":".
+void AppendBeamSkill(std::string& out, const ArcToolTipInputs& in) {
+    if (in.beamSkill == 0) {
+        out += ':';
+        return;
     }
-    return ":";
-}
-
-std::string BeamSkillPart(const CalculatorState& s, Vessel v) {
-    if (s.BeamSkill[v] == 0) return ":";
-    const std::string head = " (Fire At Will" + SignedText(static_cast<int>(s.BeamSkill[v]));
-    if (s.SkillTargets[v] < 2) return head + ", 1 Target):";
-    return head + "," + SignedText(static_cast<int>(s.SkillTargets[v])) + " Targets):";
+    out += " (Fire At Will";
+    AppendSignedText(out, static_cast<int>(in.beamSkill));
+    if (in.targets < 2) {
+        out += ", 1 Target):";
+        return;
+    }
+    out += ',';
+    AppendSignedText(out, static_cast<int>(in.targets));
+    out += " Targets):";
 }
 
 } // namespace
@@ -57,49 +55,37 @@ std::string CalculateToolTip(Calculator& c, const FiringSet& set, Vessel v) {
 }
 
 std::string CalculateToolTip(Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v) {
-    const CalculatorState& s = c.state;
-    float boosted = f.criticalBoosted;
-    float plain = f.critical;
-    // An addition where the DPS multiplies by 1.03375: the parts of a custom
-    // tooltip need not add up to the box.
-    if (!RelativeMode(c)) {
-        boosted += 0.03375f;
-        plain += 0.03375f;
-    }
+    std::string text;
+    WriteToolTip(text, ToolTipInputsOf(c, f, set, v));
+    return text;
+}
+
+void WriteToolTip(std::string& out, const ArcToolTipInputs& in) {
     // The words of the kinds, in the order of the terms; dual cannons of
-    // both kinds are named in the plural even alone.
+    // both kinds are named in the plural even alone. Beams name Fire At
+    // Will, the others the cannon skills.
     struct Word {
         const char* text;
         bool plural;
+        bool beam;
     };
-    static constexpr Word kWords[7] = {
-        {" Dual Heavy Cannons", false}, {" Dual Cannons", false}, {" Dual Beam Bank", true},    {" Cannon", true},
-        {" Beam Array", true},          {" Turret", true},        {" Shuttle Beam Array", true}};
-    const WeaponTerms terms = TermsOf(c, f, set, v, SkillEffect::Counted);
-    const int total = set.weapons.total();
-    const int power = set.power;
-
-    std::string text;
-    std::string cannonPart;
-    std::string beamPart;
-    for (std::size_t i = 0; i < terms.size(); ++i) {
-        const WeaponTerm& k = terms[i];
-        if (k.count <= 0) continue;
-        const float value = EntryValue(DPWCalc(s, power, k.row, total), k.count, k.range, k.skill, k.modifier,
-                                       k.boosted ? boosted : plain, s.ResistanceFactor[v], s.AccuracyFactor[v]);
-        std::string& skillPart = k.beam ? beamPart : cannonPart;
-        if (skillPart.empty()) skillPart = k.beam ? BeamSkillPart(s, v) : CannonSkillPart(s, v);
-        if (text.empty())
-            text.reserve(192);
+    static constexpr Word kWords[7] = {{" Dual Heavy Cannons", false, false}, {" Dual Cannons", false, false},
+                                       {" Dual Beam Bank", true, true},       {" Cannon", true, false},
+                                       {" Beam Array", true, true},           {" Turret", true, false},
+                                       {" Shuttle Beam Array", true, true}};
+    for (std::size_t i = 0; i < std::size(kWords); ++i) {
+        const int count = in.counts[i];
+        if (count <= 0) continue;
+        if (!out.empty()) out += ", ";
+        AppendPlainText(out, count);
+        out += kWords[i].text;
+        if (kWords[i].plural && count > 1) out += 's';
+        if (kWords[i].beam)
+            AppendBeamSkill(out, in);
         else
-            text += ", ";
-        AppendPlainText(text, k.count);
-        text += kWords[i].text;
-        if (kWords[i].plural && k.count > 1) text += 's';
-        text += skillPart;
-        AppendSignedText(text, value);
+            AppendCannonSkill(out, in);
+        AppendSignedText(out, in.values[i]);
     }
-    return text;
 }
 
 } // namespace vantorel

@@ -13,5 +13,8 @@ namespace vantorel {
 std::string CalculateToolTip(Calculator& c, const FiringSet& set, Vessel v);
 // The same with the vessel's factors worked out already.
 std::string CalculateToolTip(Calculator& c, const VesselFactors& f, const FiringSet& set, Vessel v);
+// The text written from what the tooltip shows (ToolTipInputsOf), appended
+// to `out`, an empty text.
+void WriteToolTip(std::string& out, const ArcToolTipInputs& in);
 
 } // namespace vantorel

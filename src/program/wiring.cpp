@@ -12,8 +12,8 @@ namespace vantorel {
 
 namespace {
 
-void ShowResults(Calculator& c) {
-    ShowArcResults(c);
+void ShowResults(Calculator& c, const ArcRows& rows) {
+    ShowArcResults(c, rows);
     GraphControl(c);
 }
 

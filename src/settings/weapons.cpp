@@ -265,8 +265,8 @@ void DisplayedDPSUpdate(Calculator& c, Vessel v) {
         for (int i = 1; i <= 7; ++i)
             s.CalculatedWeaponDPSLabel[i].setCaption(stored[i]);
     } else {
-        const std::string e = GetDamageType(c, v, DamageGroup::Energy);
-        const std::string p = GetDamageType(c, v, DamageGroup::Projectile);
+        const std::string e(GetDamageType(c, v, DamageGroup::Energy));
+        const std::string p(GetDamageType(c, v, DamageGroup::Projectile));
         const std::string named[8] = {
             "",           e + "Dual (Heavy) Cannons", "Dual " + e + "Beam Bank", e + "Cannon", e + "Beam Array",
             e + "Turret", p + "Torpedo Launcher",     p + "Mine Launcher"};

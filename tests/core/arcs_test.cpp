@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <set>
 #include <sstream>
 #include <tuple>
@@ -180,7 +181,7 @@ TEST(FiringArcs, EightWeaponsWithDualCannons) {
 
 TEST(FiringArcs, TorpedoesAloneUseTheFrontBurst) {
     Program c;
-    c.main.Forward[1].setText(GetDamageType(c, 1, DamageGroup::Projectile) + "Torpedo Launcher");
+    c.main.Forward[1].setText(std::string(GetDamageType(c, 1, DamageGroup::Projectile)) + "Torpedo Launcher");
     CalculateFiringArcs(c);
     for (int i = 0; i <= 13; ++i)
         EXPECT_EQ(c.state.ArcShown[i], i == 12) << i;
@@ -245,6 +246,61 @@ TEST(FiringArcs, ComparisonShowsEachSidesOwnValues) {
     EXPECT_EQ(d.main.FiringArcLabel[5].caption(), "Other 270");
     EXPECT_EQ(d.main.CFiringArcLabel[5].caption(), "Other 270");
     EXPECT_TRUE(d.main.CFiringArcDPS[5].visible());
+}
+
+// The texts of the boxes are kept with their inputs and the weapon count with
+// the ports; after any change, every box must still show what a fresh
+// reading of the rows and bursts gives, whatever the change touched.
+TEST(KeptResults, BoxesFollowEveryChange) {
+    Program c;
+    CompareClicked(c);
+    // clang-format off
+    struct Step { const char* name; std::function<void(Calculator&)> change; } steps[] = {
+        {"weapons", [](Calculator& k) { Fit(k, {"Beam Array", "Dual Cannons", "Dual Beam Bank", "Quantum Torpedo Launcher"},
+                                              {"Turret", "Beam Array", "Quantum Mine Launcher"}); }},
+        {"omega's weapons", [](Calculator& k) { k.main.CForward[1].setText("Cannon"); k.main.CRear[1].setText("Turret"); }},
+        {"fire at will", [](Calculator& k) { k.skills[1].BeamSkillActivated.setValue(1); }},
+        {"targets", [](Calculator& k) { k.skills[1].Targets.setText("2"); }},
+        // Fire At Will doubles for two targets and more: only the words change.
+        {"more targets", [](Calculator& k) { k.skills[1].Targets.setText("3"); }},
+        {"rapid fire", [](Calculator& k) { k.skills[1].CannonSkillActivated.setValue(1); }},
+        {"beam overload", [](Calculator& k) { k.skills[1].BeamOverloadActivated.setValue(1); }},
+        {"torpedo salvo", [](Calculator& k) { k.skills[1].TorpedoSkillActivated.setValue(1); }},
+        {"mine pattern", [](Calculator& k) { k.skills[1].MineSkillActivated.setValue(1); }},
+        {"power", [](Calculator& k) { k.main.PowerLevel[1].click(3); }},
+        {"distance", [](Calculator& k) { k.main.TargetDistance[1].click(4); }},
+        {"custom weapons", [](Calculator& k) { k.Alpha().RelativeDPS.setValue(0); }},
+        {"weapon mark", [](Calculator& k) { k.Alpha().WeaponMark.click(2); }},
+        {"accuracy", [](Calculator& k) { k.Alpha().Accuracy.setValue(1); }},
+        {"attack vectors", [](Calculator& k) { k.Alpha().CriticalSettings.setValue(0); k.Alpha().CriticalSkill[1].setText("9"); }},
+        {"plasma torpedoes", [](Calculator& k) { k.Alpha().WeaponType[2].click(2); }},
+        {"resistance of a script", [](Calculator& k) { k.state.ResistanceFactor[1] = 0.5f; }},
+        {"dpw of a script", [](Calculator& k) { k.state.SingleWeaponDPW[5] = 50.0f; }},
+        {"count of a script", [](Calculator& k) { k.state.WeaponCount[Slot::Cannons][1] = 3; }},
+    };
+    // clang-format on
+    // Boxes 0, 1, 2, 6, 7 and 9 carry the tooltips of rows 0 to 5.
+    const int tipBox[6] = {0, 1, 2, 6, 7, 9};
+    for (const Step& step : steps) {
+        step.change(c);
+        CalculateFiringArcs(c);
+        const CalculatorState& s = c.state;
+        EXPECT_EQ(s.WeaponCount[Slot::Cannons][1], 0) << step.name;
+        for (Vessel v = 1; v <= 2; ++v) {
+            const Indexed<Label, 0, 13>& boxes = v == 1 ? c.main.FiringArcDPS : c.main.CFiringArcDPS;
+            const int power = GetPowerLevel(c, v, Bonus::With), distance = GetRange(c, v);
+            for (int row = 0; row <= 5; ++row) {
+                const Label& box = boxes[tipBox[row]];
+                EXPECT_EQ(box.tooltip(), CalculateToolTip(c, {RowCounts(s, v, row), power, distance}, v))
+                    << step.name << ", vessel " << v << ", row " << row;
+                EXPECT_EQ(box.caption(), PlainText(s.ArcDPS[row][v]))
+                    << step.name << ", vessel " << v << ", row " << row;
+            }
+            EXPECT_EQ(boxes[12].tooltip(), BurstToolTip(c, FrontBurstCounts(s, v), v)) << step.name << ", vessel " << v;
+            EXPECT_EQ(boxes[13].tooltip(), BurstToolTip(c, RearBurstCounts(s, v), v)) << step.name << ", vessel " << v;
+            EXPECT_EQ(boxes[13].caption(), PlainText(s.ArcDPS[7][v])) << step.name << ", vessel " << v;
+        }
+    }
 }
 
 // A picture name that no drawing produces: it stays only if nothing loads.

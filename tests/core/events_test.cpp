@@ -146,7 +146,7 @@ TEST(Shuttles, BurstReadsTheRebuiltRankList) {
         c.skills[1].BeamOverloadActivated.setValue(1);
         if (k.grade >= 0) Shuttle(c, 0, k.rankRow, k.grade);
         c.Alpha().Rank.setIndex(k.newRankRow);
-        c.main.Forward[1].setText("Shuttle " + GetDamageType(c, 1, DamageGroup::Energy) + "Beam Array");
+        c.main.Forward[1].setText("Shuttle " + std::string(GetDamageType(c, 1, DamageGroup::Energy)) + "Beam Array");
         CalculateFiringArcs(c);
         const float shown = c.state.ArcDPS[6][1];
         CalculateFiringArcs(c);

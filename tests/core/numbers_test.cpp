@@ -48,6 +48,16 @@ TEST(Numbers, NumericText) {
         EXPECT_EQ(LeadingValue(power), *power == '1' ? 100 : 0) << power;
 }
 
+// Skill boxes of plain digits are read without the general reading; both
+// must give the same level for whatever a box may hold.
+TEST(Numbers, PlainDigitsReadAsTheGeneralReadingDoes) {
+    for (const char* text :
+         {"9", " 9 ", "0009", "10", "9999", "12345", "9a", "+9", "-9", "9.5", "9 9", " ", "", "47"}) {
+        EXPECT_EQ(WholeNumberOf(text, -7), WholeNumberOfText(text, -7)) << '"' << text << '"';
+        if (const auto digits = PlainDigits(text)) { EXPECT_EQ(*digits, NumericValue(text).value()) << text; }
+    }
+}
+
 TEST(Numbers, PlainAndSignedText) {
     // clang-format off
     struct Case { std::string got; const char* expected; } cases[] = {

@@ -128,9 +128,9 @@ struct Broken {
     std::optional<Invariant> expected;
 };
 
-void ShowRowPlusOne(Calculator& c) {
+void ShowRowPlusOne(Calculator& c, const ArcRows& rows) {
     c.state.ArcDPS[0][1] += 1.0f;
-    ShowArcResults(c);
+    ShowArcResults(c, rows);
 }
 
 TEST(Invariants, EachRuleFiresOnABrokenProgram) {

@@ -130,16 +130,3 @@ BENCHMARK(FirstShowOfASettingsWindow)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace vantorel
-
-int main(int argc, char** argv) {
-    const std::filesystem::path screen = std::filesystem::temp_directory_path() / "vantorel-bench-screen.json";
-    std::ofstream(screen) << R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [)"
-                          << R"({"name": "Screen", "x": 0, "y": 0, "width": 1920, "height": 1080,)"
-                          << R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
-    qputenv("QT_QPA_PLATFORM", QByteArray("offscreen:configfile=") + QByteArray::fromStdString(screen.string()));
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
