@@ -40,11 +40,7 @@ Caption CaptionOf(const std::string& field) {
 }
 
 // The boxes' own face, asked for by name like the captions.
-QFont BoxFont() {
-    QFont font(QStringLiteral("MS Sans Serif"));
-    font.setPointSizeF(9);
-    return font;
-}
+QFont BoxFont() { return gui::SansSerifFont(9); }
 
 QLabel* MakeLabel(QWidget* page, Caption kind) {
     auto* w = new QLabel(page);
