@@ -12,6 +12,15 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   libgif-dev
   xvfb xauth fonts-dejavu-core
+  # The Debian package: dpkg-shlibdeps finds the libraries it depends on.
+  dpkg-dev
+  # The test of an installed copy checks its desktop file.
+  desktop-file-utils
+  # Faces that stand in for the named fonts: DejaVu Sans Condensed for
+  # "Final Frontier", Liberation Sans for "MS Sans Serif", Liberation Serif
+  # for the manual's "Times New Roman".
+  fonts-dejavu-extra
+  fonts-liberation2
 )
 
 missing=()

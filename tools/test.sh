@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
-# Sets up and builds Vantorel, runs every test, then builds the tests again
-# with AddressSanitizer and UndefinedBehaviorSanitizer and runs them there,
-# and last builds the Release configuration that the benchmarks use, so that
-# every build type the README names is built on every run.
+# Sets up and builds Vantorel, runs every test (among them one of a copy
+# installed into a prefix of its own), builds the Debian package and checks
+# what it holds, then builds the tests again with AddressSanitizer and
+# UndefinedBehaviorSanitizer and runs them there, and last builds the Release
+# configuration that the benchmarks use, so that every build type the README
+# names is built on every run.
 set -euo pipefail
 here="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 "$here/tools/setup.sh"
@@ -15,6 +17,9 @@ jobs="$(nproc 2>/dev/null || echo 2)"
 
 echo "== Tests"
 ctest --test-dir build --output-on-failure -j "$jobs"
+
+echo "== Debian package"
+bash tests/install/debian_package.sh build
 
 echo "== Tests under AddressSanitizer and UndefinedBehaviorSanitizer"
 cmake -S . -B build-sanitize -G Ninja -DCMAKE_BUILD_TYPE=Debug -DVANTOREL_SANITIZE=ON -DVANTOREL_BENCH=OFF \

@@ -180,6 +180,15 @@ QFont FrontierFont(double points, bool bold) {
     return font;
 }
 
+QFont SansSerifFont(double points) {
+    QFont font;
+    font.setFamilies({QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif"),
+                      QStringLiteral("Liberation Sans"), QStringLiteral("Arimo"), QStringLiteral("Arial")});
+    font.setStyleHint(QFont::SansSerif);
+    font.setPointSizeF(points);
+    return font;
+}
+
 void Bind(QLabel* widget, Label& field, const Twips& twips) { Attach(widget, field, twips, ShowLabel); }
 
 void Bind(QComboBox* widget, List& field, const Twips& twips) {

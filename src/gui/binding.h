@@ -28,6 +28,10 @@ QColor ToQColor(Colour c);
 // "Final Frontier" by name; where it is missing a narrow face stands in, so
 // that captions sized for it keep to their places.
 QFont FrontierFont(double points, bool bold = false);
+// "MS Sans Serif" by name, the face of the output boxes and of the note's
+// buttons; where it is missing a face of Arial's widths stands in (Liberation
+// Sans), so that a caption sized for it keeps within its box.
+QFont SansSerifFont(double points);
 
 // A label is drawn on its page; a box that shows its background colour has
 // autoFillBackground set by its window.

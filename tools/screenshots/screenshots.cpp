@@ -2,6 +2,14 @@
 // runs on a virtual screen of 1920 x 1080 pixels at 96 dpi, so that the
 // pictures are the same on every machine, and drives each state through the
 // fields, as a user's clicks would.
+//
+//   vantorel-screenshots [--scale FACTOR [--all]] [OUTPUT_DIR]
+//
+// --scale renders at that many device pixels to the pixel (Qt's
+// QT_SCALE_FACTOR) on a screen as many times larger, so that the windows
+// have the same room; the shots are named NAME-2x.png (for a factor of 2),
+// and only the few that show a screen of high density best are written,
+// unless --all asks for every one.
 
 #include "graph/key.h"
 #include "help/help.h"
@@ -19,11 +27,13 @@
 #include <QPixmap>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <initializer_list>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -32,12 +42,30 @@ namespace {
 using vantorel::List;
 using vantorel::Program;
 
-std::string VirtualScreen() {
+std::string VirtualScreen(double scale) {
     const std::filesystem::path file = std::filesystem::temp_directory_path() / "vantorel-screenshots-screen.json";
     std::ofstream(file) << R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [)"
-                        << R"({"name": "Screen", "x": 0, "y": 0, "width": 1920, "height": 1080,)"
-                        << R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+                        << R"({"name": "Screen", "x": 0, "y": 0, "width": )" << std::lround(1920 * scale)
+                        << R"(, "height": )" << std::lround(1080 * scale)
+                        << R"(, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
     return file.string();
+}
+
+// What a run writes: every shot at scale 1, the high-density few otherwise.
+struct Output {
+    QString suffix; // "-2x" at a scale of 2
+    bool every = true;
+};
+Output g_output;
+
+bool Wanted(const char* name) {
+    static const std::set<std::string> highDensity = {"comparison", "settings-mirrored", "graph-standard-compared",
+                                                      "manual"};
+    return g_output.every || highDensity.contains(name);
+}
+
+QString FileOf(const QString& folder, const char* name) {
+    return QDir(folder).filePath(QString::fromLatin1(name) + g_output.suffix + QStringLiteral(".png"));
 }
 
 // Clicks the first row that holds `text`, as a user picks it.
@@ -57,8 +85,9 @@ class Shooter final {
     Shooter(QWidget& window, QString folder) : m_window(&window), m_folder(std::move(folder)) {}
     bool operator()(const char* name) { return shoot(m_window, name); }
     bool shoot(QWidget* window, const char* name) {
+        if (!Wanted(name)) return true;
         QApplication::processEvents();
-        const QString file = QDir(m_folder).filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
+        const QString file = FileOf(m_folder, name);
         const bool saved = window && window->grab().save(file);
         std::printf("%s %s\n", saved ? "wrote" : "FAILED", qPrintable(file));
         return saved;
@@ -74,6 +103,7 @@ class Shooter final {
 bool ShootTogether(vantorel::ProgramWindows& windows, const QString& folder, const char* name,
                    std::initializer_list<const vantorel::Window*> fields) {
     constexpr int kGap = 8;
+    if (!Wanted(name)) return true;
     QApplication::processEvents();
     std::vector<QPixmap> shots;
     int width = 0, height = 0;
@@ -87,16 +117,21 @@ bool ShootTogether(vantorel::ProgramWindows& windows, const QString& folder, con
         width += shots.back().width() + (shots.size() > 1 ? kGap : 0);
         height = std::max(height, shots.back().height());
     }
+    // The shots are in device pixels; the gap is one of the screen's.
+    const double density = shots.front().devicePixelRatio();
+    const int gap = static_cast<int>(std::lround(kGap * density));
+    width += (static_cast<int>(shots.size()) - 1) * (gap - kGap);
     QPixmap all(width, height);
     all.fill(Qt::black);
     QPainter painter(&all);
     int x = 0;
-    for (const QPixmap& shot : shots) {
+    for (QPixmap shot : shots) {
+        shot.setDevicePixelRatio(1.0);
         painter.drawPixmap(x, 0, shot);
-        x += shot.width() + kGap;
+        x += shot.width() + gap;
     }
     painter.end();
-    const QString file = QDir(folder).filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
+    const QString file = FileOf(folder, name);
     const bool saved = all.save(file);
     std::printf("%s %s\n", saved ? "wrote" : "FAILED", qPrintable(file));
     return saved;
@@ -211,12 +246,33 @@ bool ShootGraphs(const QString& folder) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    const std::string platform = "offscreen:configfile=" + VirtualScreen();
+    double scale = 1.0;
+    bool all = false;
+    QString folder = QStringLiteral("docs/screenshots");
+    for (int i = 1; i < argc; ++i) {
+        const std::string arg = argv[i];
+        if (arg == "--scale" && i + 1 < argc)
+            scale = std::atof(argv[++i]);
+        else if (arg == "--all")
+            all = true;
+        else
+            folder = QString::fromLocal8Bit(argv[i]);
+    }
+    if (!(scale >= 1.0 && scale <= 4.0)) {
+        std::fprintf(stderr, "usage: vantorel-screenshots [--scale FACTOR [--all]] [OUTPUT_DIR]\n");
+        return 2;
+    }
+    // The scale is the one asked for here, never one left in the environment.
+    qunsetenv("QT_SCALE_FACTOR");
+    if (scale != 1.0) {
+        g_output = {QStringLiteral("-%1x").arg(scale), all};
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
+    }
+    const std::string platform = "offscreen:configfile=" + VirtualScreen(scale);
     qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString(platform));
     if (qEnvironmentVariableIsEmpty("VANTOREL_IMAGES"))
         qputenv("VANTOREL_IMAGES", QByteArrayLiteral(VANTOREL_SOURCE_DIR "/Images"));
     QApplication app(argc, argv);
-    const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("docs/screenshots");
     QDir().mkpath(folder);
 
     Program c;

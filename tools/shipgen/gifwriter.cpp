@@ -2,6 +2,9 @@
 
 #include <gif_lib.h>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <memory>
 #include <vector>
 
@@ -46,9 +49,16 @@ bool WriteRightHalfGif(const QImage& source, const QString& path) {
     for (int i = 0; i < 256; ++i)
         map->Colors[i] = i < colours ? palette[static_cast<std::size_t>(i)] : GifColorType{0, 0, 0};
 
+    // Readable by all, as the JPEG files are (giflib's own opening makes the
+    // file private to its owner).
+    const int file = open(path.toLocal8Bit().constData(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
+    if (file < 0) return false;
     int error = 0;
-    GifFileType* gif = EGifOpenFileName(path.toLocal8Bit().constData(), false, &error);
-    if (!gif) return false;
+    GifFileType* gif = EGifOpenFileHandle(file, &error);
+    if (!gif) {
+        close(file);
+        return false;
+    }
     EGifSetGifVersion(gif, true);
     bool ok = EGifPutScreenDesc(gif, width, height, 8, 0, map.get()) != GIF_ERROR;
 

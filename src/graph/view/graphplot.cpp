@@ -9,6 +9,7 @@
 #include <QPen>
 
 #include <algorithm>
+#include <cmath>
 #include <initializer_list>
 #include <vector>
 
@@ -34,6 +35,23 @@ struct Caption {
     Qt::Alignment align;
     double size; // used where the label has no size of its own
 };
+
+// The grid and the key's frame are one pixel wide: on a screen of more
+// device pixels than pixels, as many whole device pixels as make one pixel,
+// laid over the middle of the pixel the line stands on, so that every line
+// is as sharp and as wide as the others at a scale of 1.5 as at 2.
+struct Hairline {
+    QPen pen;
+    double offset; // added to both coordinates, in pixels
+};
+
+Hairline HairlineOf(const QPainter& p, const QColor& colour) {
+    const double density = p.device() ? p.device()->devicePixelRatioF() : 1.0;
+    if (density <= 1.0) return {QPen(colour, 0), 0.0};
+    QPen pen(colour, std::round(density));
+    pen.setCosmetic(true);
+    return {pen, 0.5};
+}
 
 double SizeOf(const Caption& c) { return c.label->fontSize() > 0.0 ? c.label->fontSize() : c.size; }
 
@@ -100,9 +118,10 @@ void GraphPlot::paintFrame(QPainter& p) const {
     p.setRenderHint(QPainter::Antialiasing, false);
     const auto line = [&](const Line& l) {
         if (!l.visible()) return;
-        p.setPen(QPen(gui::ToQColor(l.fore()), 0));
-        p.drawLine(m_twips.toPixelsX(l.x1()), m_twips.toPixelsY(l.y1()), m_twips.toPixelsX(l.x2()),
-                   m_twips.toPixelsY(l.y2()));
+        const Hairline hair = HairlineOf(p, gui::ToQColor(l.fore()));
+        p.setPen(hair.pen);
+        p.drawLine(QPointF(m_twips.toPixelsX(l.x1()) + hair.offset, m_twips.toPixelsY(l.y1()) + hair.offset),
+                   QPointF(m_twips.toPixelsX(l.x2()) + hair.offset, m_twips.toPixelsY(l.y2()) + hair.offset));
     };
     for (int k = 1; k <= 9; ++k)
         line(m_g.AxisLine[k]);
@@ -137,8 +156,9 @@ void GraphPlot::paintKey(QPainter& p) const {
     p.setRenderHint(QPainter::Antialiasing, false);
     const QRect box = m_twips.rect(key);
     p.fillRect(box, gui::ToQColor(key.back()));
-    p.setPen(QPen(gui::ToQColor(key.fore()), 0));
-    p.drawRect(box.adjusted(0, 0, -1, -1));
+    const Hairline hair = HairlineOf(p, gui::ToQColor(key.fore()));
+    p.setPen(hair.pen);
+    p.drawRect(QRectF(box.adjusted(0, 0, -1, -1)).translated(hair.offset, hair.offset));
     for (int i = 0; i <= 5; ++i) {
         const Control& icon = m_g.KeyIcon[i];
         if (icon.visible()) p.fillRect(m_twips.rect(icon), gui::ToQColor(icon.back()));

@@ -30,8 +30,7 @@ NoteWindowView::NoteWindowView(Calculator& c, QWidget* parent)
 
     // The buttons' captions in the window's own small face, so that "View
     // Documentation" fits its button.
-    QFont buttons(QStringLiteral("MS Sans Serif"));
-    buttons.setPointSizeF(8);
+    const QFont buttons = gui::SansSerifFont(8);
     auto* readme = new QPushButton(this);
     readme->setObjectName(QStringLiteral("Note.Readme"));
     readme->setFont(buttons);

@@ -25,11 +25,7 @@ QString Name(const char* control) { return QStringLiteral("Form1.") + QLatin1Str
 QString Name(const char* control, int index) { return Name(control) + QStringLiteral("[%1]").arg(index); }
 
 // The boxes' own face, asked for by name like the captions.
-QFont BoxFont() {
-    QFont font(QStringLiteral("MS Sans Serif"));
-    font.setPointSizeF(9.75);
-    return font;
-}
+QFont BoxFont() { return gui::SansSerifFont(9.75); }
 
 } // namespace
 

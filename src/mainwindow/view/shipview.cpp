@@ -3,8 +3,9 @@
 #include "engine/records.h"
 #include "gui/twips.h"
 #include "mainwindow/shipimage.h"
+#include "mainwindow/view/picturefiles.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
@@ -82,9 +83,7 @@ void PaintArc(QPainter& p, const ArcGeometry& g) {
 } // namespace
 
 ShipView::ShipView(Calculator& c, QWidget* parent) : QWidget(parent), m_c(c) {
-    const QByteArray folder = qgetenv("VANTOREL_IMAGES");
-    m_folder = folder.isEmpty() ? QCoreApplication::applicationDirPath() + QStringLiteral("/Images")
-                                : QString::fromLocal8Bit(folder);
+    m_folder = PictureFolder();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFixedSize(sizeHint());
 
@@ -127,10 +126,10 @@ void ShipView::loadPictures() {
 void ShipView::loadPicture(const QString& key) {
     if (m_pictures.contains(key)) return;
     const QString ending = key.startsWith(QStringLiteral("Alpha/")) ? QStringLiteral(".jpg") : QStringLiteral(".gif");
-    QPixmap pixmap;
-    // A missing or broken file leaves a null pixmap: the view shows empty space.
-    pixmap.load(m_folder + QLatin1Char('/') + key + ending);
-    m_pictures.insert(key, pixmap);
+    // A missing or broken file leaves a null pixmap: the view shows empty
+    // space. The pictures are read once, at the density of the sharpest
+    // screen; on another screen they are scaled smoothly.
+    m_pictures.insert(key, ReadPicture(m_folder, key, ending, qGuiApp->devicePixelRatio()));
 }
 
 QPixmap ShipView::picture(const QString& key) const { return m_pictures.value(key); }

@@ -40,11 +40,7 @@ Caption CaptionOf(const std::string& field) {
 }
 
 // The boxes' own face, asked for by name like the captions.
-QFont BoxFont() {
-    QFont font(QStringLiteral("MS Sans Serif"));
-    font.setPointSizeF(9);
-    return font;
-}
+QFont BoxFont() { return gui::SansSerifFont(9); }
 
 QLabel* MakeLabel(QWidget* page, Caption kind) {
     auto* w = new QLabel(page);
@@ -144,7 +140,10 @@ void SettingsWindowView::build(VesselSettings& s, const char* name) {
     }
 }
 
-// A thin line above each section after the first, across the page.
+// A thin line above each section after the first, across the page. The
+// line runs through the middle of a frame three pixels high: a frame of one
+// pixel falls between device pixels on a screen scaled by 1.5 and shows
+// nothing.
 void SettingsWindowView::addSectionLines(VesselSettings& s, QWidget* page) {
     for (const Label* heading : {&s.CriticalSettingsLabel, &s.PowerSettings, &s.WeaponDamageLabel}) {
         auto* line = new QFrame(page);
@@ -154,7 +153,7 @@ void SettingsWindowView::addSectionLines(VesselSettings& s, QWidget* page) {
         palette.setColor(QPalette::WindowText, gui::ToQColor(DarkGrey));
         line->setPalette(palette);
         line->setGeometry(
-            m_twips.rect(heading->left(), heading->top() - 75, s.Contents.width() - 2 * heading->left(), 15));
+            m_twips.rect(heading->left(), heading->top() - 90, s.Contents.width() - 2 * heading->left(), 45));
     }
 }
 
