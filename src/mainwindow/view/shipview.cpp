@@ -1,10 +1,13 @@
 #include "mainwindow/view/shipview.h"
 
+#include "catalogue/pictures.h"
 #include "engine/records.h"
 #include "gui/twips.h"
 #include "mainwindow/shipimage.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
@@ -28,6 +31,22 @@ QString AlphaKey(const Calculator& c) { return QStringLiteral("Alpha/") + AlphaN
 QString OmegaKey(const Calculator& c) {
     const std::string& name = c.main.OmegaImage.image();
     return name.empty() ? QString() : QStringLiteral("Omega/") + QString::fromStdString(name);
+}
+
+// The picture in the file, or a null pixmap. Only a plain file is opened, so
+// that a folder or a pipe under a picture's name cannot hold the window up,
+// and it is opened to read and nothing else. Only a whole picture reaches the
+// decoder.
+QPixmap ReadWholePicture(const QString& path, PictureFile kind) {
+    const QFileInfo info(path);
+    if (!info.isFile() || info.size() <= 0 || info.size() > qint64(kLargestPictureFile)) return {};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    const QByteArray bytes = file.read(qint64(kLargestPictureFile) + 1);
+    if (!IsWholePicture(std::string_view(bytes.constData(), std::size_t(bytes.size())), kind)) return {};
+    QPixmap pixmap;
+    pixmap.loadFromData(bytes, kind == PictureFile::Jpeg ? "JPG" : "GIF");
+    return pixmap;
 }
 
 QPointF At(ArcPoint p) { return {p.x, p.y}; }
@@ -126,11 +145,12 @@ void ShipView::loadPictures() {
 
 void ShipView::loadPicture(const QString& key) {
     if (m_pictures.contains(key)) return;
-    const QString ending = key.startsWith(QStringLiteral("Alpha/")) ? QStringLiteral(".jpg") : QStringLiteral(".gif");
-    QPixmap pixmap;
-    // A missing or broken file leaves a null pixmap: the view shows empty space.
-    pixmap.load(m_folder + QLatin1Char('/') + key + ending);
-    m_pictures.insert(key, pixmap);
+    const bool alpha = key.startsWith(QStringLiteral("Alpha/"));
+    const QString ending = alpha ? QStringLiteral(".jpg") : QStringLiteral(".gif");
+    // A missing or broken file leaves a null pixmap: the view shows a plain
+    // square, or half of one for Omega.
+    m_pictures.insert(key, ReadWholePicture(m_folder + QLatin1Char('/') + key + ending,
+                                            alpha ? PictureFile::Jpeg : PictureFile::Gif));
 }
 
 QPixmap ShipView::picture(const QString& key) const { return m_pictures.value(key); }
