@@ -173,4 +173,21 @@ void ShipImageControl(Calculator& c) {
     DrawShip(c, alpha, omega);
 }
 
+bool IsWholePicture(std::string_view bytes, PictureFile kind) {
+    if (bytes.empty() || bytes.size() > kLargestPictureFile) return false;
+    const auto startsWith = [bytes](std::string_view start) { return bytes.substr(0, start.size()) == start; };
+    const auto endsWith = [bytes](std::string_view end) {
+        return bytes.size() >= end.size() && bytes.substr(bytes.size() - end.size()) == end;
+    };
+    switch (kind) {
+    case PictureFile::Jpeg:
+        // Start of image, the first marker, ..., end of image.
+        return bytes.size() >= 6 && startsWith("\xFF\xD8\xFF") && endsWith("\xFF\xD9");
+    case PictureFile::Gif:
+        // The signature and version, ..., the trailer.
+        return bytes.size() >= 14 && (startsWith("GIF87a") || startsWith("GIF89a")) && endsWith("\x3B");
+    }
+    return false;
+}
+
 } // namespace vantorel

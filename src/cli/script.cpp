@@ -201,8 +201,10 @@ class Runner {
         LineReader in(line);
         const std::string verb = in.word();
         if (verb == "print") return print(in);
-        if (verb != "select" && verb != "check" && verb != "type" && verb != "click" && verb != "set")
-            Fail("unknown verb \"" + Shown(verb) + "\"; the verbs are select, check, type, click, set and print");
+        if (verb != "select" && verb != "check" && verb != "type" && verb != "click" && verb != "set" &&
+            verb != "close")
+            Fail("unknown verb \"" + Shown(verb) +
+                 "\"; the verbs are select, check, type, click, close, set and print");
 
         const std::string name = in.name();
         if (name.empty()) Fail(verb + ": the name of a control is missing");
@@ -216,6 +218,7 @@ class Runner {
         if (verb == "check") return check(ref, what, value);
         if (verb == "type") return type(ref, what, value);
         if (verb == "click") return click(ref, what, value);
+        if (verb == "close") return close(ref, what, value);
         return set(ref, what, value);
     }
 
@@ -357,6 +360,13 @@ class Runner {
         if (value) Fail(what + ": a button takes no value, got " + Shown(value->written()));
         usable(ref, what);
         std::get<Button*>(ref.target)->press();
+    }
+
+    static void close(const ControlRef& ref, const std::string& what, const std::optional<Value>& value) {
+        if (ref.kind() != ValueKind::Window) wrongKind(ref, what, "a window");
+        if (value) Fail(what + ": a window's frame takes no value, got " + Shown(value->written()));
+        usable(ref, what);
+        std::get<Window*>(ref.target)->requestClose();
     }
 
     template <typename T> static T number(const std::string& what, const Value& value) {

@@ -8,10 +8,11 @@
 //   check CONTROL 0|1                 set a check box as a click does
 //   type CONTROL "text"               replace the text of a text box or of a list with typing
 //   click CONTROL                     press a button
+//   close WINDOW                      close a window by its frame
 //   set CONTROL VALUE                 assign as the program's code does: no click, no checks
 //   print [GLOB]                      one JSON object of the matching names
-// The first four are a user's actions, refused on a control that is hidden or
-// disabled or whose window is hidden. In a print pattern `*` and `?` are
+// All but `set` and `print` are a user's actions, refused on a control that is
+// hidden or disabled or whose window is hidden or disabled. In a print pattern `*` and `?` are
 // wild, and brackets match themselves, since every indexed name has them:
 // `print State.ArcDPS[*,2]` prints Omega's rows.
 

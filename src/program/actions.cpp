@@ -77,6 +77,9 @@ std::vector<const ControlRef*> ActionableControls(const ControlRegistry& registr
         case ValueKind::ScrollBar:
             controls.push_back(&ref);
             break;
+        case ValueKind::Window:
+            if (ref.control->hasHandler()) controls.push_back(&ref);
+            break;
         default:
             break;
         }
@@ -96,6 +99,8 @@ int ActionCount(const ControlRef& ref) {
     case ValueKind::Flag:
     case ValueKind::Button:
         return 1;
+    case ValueKind::Window:
+        return ref.control->hasHandler() ? 1 : 0;
     case ValueKind::ScrollBar: {
         const int maximum = std::get<ScrollBar*>(ref.target)->maximum();
         return (maximum > 0 ? maximum : 0) + 1;
@@ -130,6 +135,10 @@ Action NthAction(const ControlRef& ref, int k) {
     case ValueKind::ScrollBar:
         a.kind = ActionKind::Scroll;
         break;
+    case ValueKind::Window:
+        a.kind = ActionKind::Close;
+        a.value = 0;
+        break;
     default:
         a.kind = ActionKind::Press;
         a.value = 0;
@@ -150,14 +159,29 @@ std::vector<Action> UsableActions(std::span<const ControlRef* const> controls) {
 
 bool PickAction(std::span<const ControlRef* const> controls, std::mt19937_64& random,
                 std::vector<const ControlRef*>& reachable, Action& picked) {
+    // The table lists each window's controls together, so the controls in
+    // reach come in one run per window.
     reachable.clear();
-    for (const ControlRef* ref : controls)
-        if (ActionCount(*ref) > 0) reachable.push_back(ref);
+    int windows = 0;
+    for (const ControlRef* ref : controls) {
+        if (ActionCount(*ref) == 0) continue;
+        if (reachable.empty() || reachable.back()->form != ref->form) ++windows;
+        reachable.push_back(ref);
+    }
     if (reachable.empty()) return false;
     const auto below = [&random](int n) {
         return static_cast<int>(std::uniform_int_distribution<int>(0, n - 1)(random));
     };
-    const ControlRef& ref = *reachable[static_cast<std::size_t>(below(static_cast<int>(reachable.size())))];
+    std::size_t first = 0;
+    for (int window = below(windows); window > 0; --window) {
+        const Window* form = reachable[first]->form;
+        while (reachable[first]->form == form)
+            ++first;
+    }
+    std::size_t end = first;
+    while (end < reachable.size() && reachable[end]->form == reachable[first]->form)
+        ++end;
+    const ControlRef& ref = *reachable[first + static_cast<std::size_t>(below(static_cast<int>(end - first)))];
     const int n = ActionCount(ref);
     if (TypingList(ref)) {
         const int rows = std::get<List*>(ref.target)->count();
@@ -194,6 +218,9 @@ void Perform(const Action& action) {
     case ActionKind::Scroll:
         std::get<ScrollBar*>(ref.target)->setValue(action.value);
         return;
+    case ActionKind::Close:
+        std::get<Window*>(ref.target)->requestClose();
+        return;
     }
 }
 
@@ -210,6 +237,8 @@ std::string ScriptLine(const Action& action) {
         return "click " + name;
     case ActionKind::Scroll:
         return "set " + name + " " + std::to_string(action.value);
+    case ActionKind::Close:
+        return "close " + name;
     }
     return {};
 }

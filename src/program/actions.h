@@ -2,8 +2,9 @@
 
 // What a user can do with the program at this moment, read off the table of
 // named controls: click a row of a list, click a check box, type into a text
-// box or a list with typing, press a button, move a scroll bar. A control is
-// within reach while it is on show and enabled and its window is on show.
+// box or a list with typing, press a button, move a scroll bar, close a window
+// by its frame. A control is within reach while it is on show and enabled and
+// its window is on show and enabled.
 // Every action is also one line of a vantorel-cli script, so that a run of
 // actions can be replayed. Nothing here names a window: a window joins by
 // registering its fields.
@@ -19,8 +20,9 @@
 
 namespace vantorel {
 
-// By the script verb that performs them: select, check, type, click, set.
-enum class ActionKind { SelectRow, CheckBox, Type, Press, Scroll };
+// By the script verb that performs them: select, check, type, click, set,
+// close.
+enum class ActionKind { SelectRow, CheckBox, Type, Press, Scroll, Close };
 
 struct Action {
     ActionKind kind = ActionKind::Press;
@@ -39,7 +41,9 @@ std::span<const std::string_view> TypedTexts();
 bool IsUsable(const ControlRef& ref);
 
 // The entries a user can act on at all: lists, check boxes, text boxes,
-// buttons and scroll bars, in the order of the table.
+// buttons, scroll bars and the windows whose handler answers a close by their
+// frame, in the order of the table. A window without one is the main window,
+// whose closing ends the program.
 std::vector<const ControlRef*> ActionableControls(const ControlRegistry& registry);
 
 // How many actions the control offers now, 0 while it is out of reach, and
@@ -51,11 +55,13 @@ Action NthAction(const ControlRef& ref, int k);
 // Every action that the controls offer now.
 std::vector<Action> UsableActions(std::span<const ControlRef* const> controls);
 
-// One action at random among those the controls offer now: each control in
-// reach is as likely as any other, a list with typing is clicked or typed
-// into with even chances, and then each of the actions of that kind is as
-// likely as any other. False if nothing is in reach. `reachable` is scratch
-// space, kept by the caller so that a long run does not allocate.
+// One action at random among those the controls offer now: each window with
+// a control in reach is as likely as any other, so that a window of three
+// buttons gets its share beside the main window; within it each control in
+// reach is as likely as any other, a list with typing is clicked or typed into
+// with even chances, and then each of the actions of that kind is as likely as
+// any other. False if nothing is in reach. `reachable` is scratch space, kept
+// by the caller so that a long run does not allocate.
 bool PickAction(std::span<const ControlRef* const> controls, std::mt19937_64& random,
                 std::vector<const ControlRef*>& reachable, Action& picked);
 
@@ -64,7 +70,8 @@ bool PickAction(std::span<const ControlRef* const> controls, std::mt19937_64& ra
 void Perform(const Action& action);
 
 // The action as a script line, without the line's end: `select NAME #3`,
-// `check NAME 1`, `type NAME "text"`, `click NAME`, `set NAME 240`.
+// `check NAME 1`, `type NAME "text"`, `click NAME`, `set NAME 240`,
+// `close WINDOW`.
 std::string ScriptLine(const Action& action);
 
 } // namespace vantorel

@@ -5,10 +5,13 @@
 #include "engine/dps.h"
 #include "engine/numbers.h"
 #include "engine/power.h"
+#include "engine/selection.h"
 #include "mainwindow/results.h"
 #include "program/program.h"
 
 #include <algorithm>
+#include <cctype>
+#include <charconv>
 #include <cstring>
 #include <exception>
 #include <stdexcept>
@@ -293,6 +296,16 @@ bool IsPlainNumber(std::string_view s) {
     return i == s.size();
 }
 
+// 0xBBGGRR, as the colours are written.
+std::string ColourText(Colour colour) {
+    char text[16];
+    const auto end = std::to_chars(text, text + sizeof text, colour, 16).ptr;
+    std::string digits(text, end);
+    for (char& ch : digits)
+        ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
+    return "0x" + std::string(6 - std::min<std::size_t>(digits.size(), 6), '0') + digits;
+}
+
 template <typename T> bool SameBits(const T& a, const T& b) { return std::memcmp(&a, &b, sizeof a) == 0; }
 
 // The skill levels that a mirrored Omega takes from Alpha. Attack Pattern
@@ -340,11 +353,48 @@ constexpr const char* kOmegaOnlyWhileComparing[] = {
 constexpr const char* kOmegaArrays[] = {"Form1.CForward", "Form1.CRear", "Form1.CFiringArcDPS", "Form1.CFiringArcLabel",
                                         "Form1.CFiringArc"};
 
-const ControlRef& Find(const ControlRegistry& registry, const char* name) {
+const ControlRef& Find(const ControlRegistry& registry, const std::string& name) {
     const ControlRef* ref = registry.find(name);
-    if (!ref || !ref->control) throw std::logic_error(std::string("the checks need the control ") + name);
+    if (!ref || !ref->control) throw std::logic_error("the checks need the control " + name);
     return *ref;
 }
+
+std::string Indexed(const char* base, int i) { return std::string(base) + "[" + std::to_string(i) + "]"; }
+
+// The number boxes of one settings window by their field names.
+std::vector<std::pair<std::string, NumberBox>> NumberBoxes() {
+    std::vector<std::pair<std::string, NumberBox>> boxes;
+    for (int i = 1; i <= 8; ++i)
+        boxes.emplace_back(Indexed("WeaponSkill", i), NumberBox::WeaponSkill);
+    for (int i = 1; i <= 3; ++i)
+        boxes.emplace_back(Indexed("CriticalSkill", i), NumberBox::CriticalSkill);
+    for (int i = 1; i <= 5; ++i)
+        boxes.emplace_back(Indexed("PowerSkill", i), PowerSkillBox(i));
+    boxes.emplace_back("TargetDefense", NumberBox::TargetDefense);
+    boxes.emplace_back("TargetResistance", NumberBox::TargetResistance);
+    return boxes;
+}
+
+// The name of a control without its window: "WeaponSkill[3]".
+std::string_view FieldOf(const ControlRef& ref) {
+    return std::string_view(ref.name).substr(std::min(ref.window.size() + 1, ref.name.size()));
+}
+
+bool StartsWith(std::string_view s, std::string_view prefix) { return s.substr(0, prefix.size()) == prefix; }
+
+// What a user works: boxes, lists, check boxes and buttons.
+bool IsInput(ValueKind kind) {
+    return kind == ValueKind::Text || kind == ValueKind::List || kind == ValueKind::Flag || kind == ValueKind::Button;
+}
+
+// The controls of a mirrored Omega that stay open: the box that frees it,
+// the window's Close and its general help.
+constexpr std::string_view kOmegaLive[] = {"SameAsAlpha", "Close", "Help[0]"};
+// What a mirrored Omega does not copy from Alpha: its faction and rank stand
+// one row lower (row 0 follows Alpha), its class on none, its equip boxes by
+// its own ship when the consoles match.
+constexpr std::string_view kOmegaOwn[] = {"Faction", "Rank", "Class", "SameAsAlpha", "CharacterSettings"};
+constexpr std::string_view kOmegaEquipped = "TacticalConsoleEquipped";
 
 } // namespace
 
@@ -360,10 +410,18 @@ std::string_view InvariantName(Invariant invariant) {
         return "a DPS box shows no plain number";
     case Invariant::Comparing:
         return "State.Comparing disagrees with the main window";
+    case Invariant::NumberBox:
+        return "a number box holds a text that it refuses";
+    case Invariant::Shade:
+        return "a settings box is not white in use and grey out of use";
+    case Invariant::OmegaReadOnly:
+        return "a mirrored Omega has a control open";
     case Invariant::OmegaSettings:
-        return "a mirrored Omega does not follow Alpha's combat factors";
+        return "a mirrored Omega does not hold Alpha's settings";
     case Invariant::OmegaSkills:
         return "a mirrored Omega does not follow Alpha's skills";
+    case Invariant::NoteHolds:
+        return "the note does not hold exactly the windows it holds while open";
     case Invariant::Recalculation:
         return "a recalculation changes what is shown";
     case Invariant::ArcDPS:
@@ -416,6 +474,35 @@ Invariants::Invariants(Calculator& c, const ControlRegistry& registry)
         for (const char* base : kOmegaArrays)
             if (ref.base == base) m_omegaOnlyWhileComparing.push_back(&ref);
     }
+    for (Vessel v = 1; v <= 2; ++v) {
+        const std::string window = v == 1 ? "Alpha." : "Omega.";
+        for (const auto& [field, kind] : NumberBoxes())
+            m_boxes.push_back({&Find(registry, window + field), kind, v});
+    }
+    for (const ControlRef& ref : registry.all()) {
+        if (!ref.control || ref.control == ref.form) continue;
+        const std::string_view field = FieldOf(ref);
+        if (ref.window == "Alpha" || ref.window == "Omega") {
+            if (ref.kind() == ValueKind::Text ||
+                (ref.kind() == ValueKind::List && !StartsWith(field, "TacticalConsole")))
+                m_shaded.push_back(&ref);
+        }
+        if (ref.window == "Omega" && IsInput(ref.kind())) {
+            const bool live = std::find(std::begin(kOmegaLive), std::end(kOmegaLive), field) != std::end(kOmegaLive);
+            if (!live) m_omegaInputs.push_back(&ref);
+            const bool own = std::find(std::begin(kOmegaOwn), std::end(kOmegaOwn), field) != std::end(kOmegaOwn) ||
+                             StartsWith(field, kOmegaEquipped);
+            if (!own && ref.kind() != ValueKind::Button) {
+                Pair pair{&ref, &Find(registry, "Alpha." + std::string(field)), std::nullopt};
+                for (const Box& box : m_boxes)
+                    if (box.ref == &ref) pair.kind = box.kind;
+                m_omegaCopies.push_back(pair);
+            }
+        }
+        if (ref.window == "OmegaSkills" && field != "SameAsAlpha" &&
+            (ref.kind() == ValueKind::Text || ref.kind() == ValueKind::List || ref.kind() == ValueKind::Flag))
+            m_omegaSkillsInputs.push_back(&ref);
+    }
     for (const ControlRef& ref : registry.all()) {
         Control* control = ref.control;
         if (!control || !control->hasHandler()) continue;
@@ -451,8 +538,8 @@ std::optional<Finding> Invariants::perform(const Action& action) {
                                 ? std::get<List*>(action.control->target)
                                 : nullptr;
     // A click on a control that has no handler raises no event either, and
-    // waits like a typed text. The character section of the settings window
-    // has none until that window is built.
+    // waits like a typed text: the graph's "Display on update" box, a
+    // settings window's class list, are read by the next recalculation.
     const bool silent = (typedInto && typedInto->text() != TypedTexts()[action.value]) ||
                         (action.kind != ActionKind::Press && !action.control->control->hasHandler());
     try {
@@ -471,8 +558,11 @@ std::optional<Finding> Invariants::perform(const Action& action) {
 std::optional<Finding> Invariants::check() {
     try {
         for (auto rule : {&Invariants::listIndexes, &Invariants::dpsCaptions, &Invariants::comparing,
-                          &Invariants::omegaSettings, &Invariants::omegaSkills})
+                          &Invariants::numberBoxes, &Invariants::shades, &Invariants::omegaReadOnly})
             if (auto finding = (this->*rule)()) return finding;
+        if (auto finding = omegaSettings()) return finding;
+        if (auto finding = omegaSkills()) return finding;
+        if (auto finding = noteHolds()) return finding;
         if (m_awaiting) return std::nullopt;
         if (auto finding = recalculation()) return finding;
         return arcDPS();
@@ -533,22 +623,65 @@ std::optional<Finding> Invariants::comparing() const {
     return std::nullopt;
 }
 
-std::optional<Finding> Invariants::omegaSettings() const {
+std::optional<Finding> Invariants::numberBoxes() const {
+    for (const Box& box : m_boxes) {
+        const Text& text = *std::get<Text*>(box.ref->target);
+        if (CorrectedText(box.kind, box.vessel, text.text(), text.enabled()))
+            return Finding{Invariant::NumberBox,
+                           box.ref->name + " holds " + Shown(text.text()) + (text.enabled() ? "" : " while closed")};
+    }
+    return std::nullopt;
+}
+
+std::optional<Finding> Invariants::shades() const {
+    for (const ControlRef* ref : m_shaded) {
+        const Control& control = *ref->control;
+        if (control.back() != (control.enabled() ? White : Grey))
+            return Finding{Invariant::Shade, ref->name + (control.enabled() ? " is open" : " is closed") +
+                                                 " and its colour is " + ColourText(control.back())};
+    }
+    return std::nullopt;
+}
+
+std::optional<Finding> Invariants::omegaReadOnly() const {
+    if (m_c.Omega().SameAsAlpha.value() != 1) return std::nullopt;
+    for (const ControlRef* ref : m_omegaInputs)
+        if (ref->control->visible() && ref->control->enabled())
+            return Finding{Invariant::OmegaReadOnly, ref->name + " is open"};
+    return std::nullopt;
+}
+
+std::optional<Finding> Invariants::omegaSettings() {
     const VesselSettings& alpha = m_c.Alpha();
     const VesselSettings& omega = m_c.Omega();
     const CalculatorState& s = m_c.state;
-    if (omega.SameAsAlpha.value() != 1 || s.Comparing == 0) return std::nullopt;
-    // Until the settings window copies Alpha's "Calculate Damage Res." box
-    // and weapon mods into a mirrored Omega, and runs Omega's share of the
-    // recalculation when they change, Omega's resistance is compared only
-    // while its own box agrees with Alpha's, and its accuracy only in
-    // Relative DPS, where weapon mods do not count. Attack Pattern Beta
-    // lowers the resistance by the vessel's own skills.
-    const bool relative = alpha.RelativeDPS.value() == 1;
-    const bool sameResistance = alpha.DamageResistance.value() == omega.DamageResistance.value() &&
-                                s.AttackPatternBeta[1] == s.AttackPatternBeta[2];
+    if (omega.SameAsAlpha.value() != 1) {
+        m_omegaComparable = true;
+        return std::nullopt;
+    }
+    // A rank row copied into an unrestricted Alpha becomes Omega's own rank
+    // once mirrored, and the lists that rank limits hold other rows than
+    // Alpha's; from then on Omega is held to Alpha's values again only after
+    // it was free and followed anew.
+    if (GetRank(m_c, 1) != GetRank(m_c, 2)) m_omegaComparable = false;
+    if (m_omegaComparable) {
+        for (const List* list : {&omega.Faction, &omega.Rank}) {
+            const List& alphas = list == &omega.Faction ? alpha.Faction : alpha.Rank;
+            if (std::max(list->index() - 1, -1) != alphas.index())
+                return Finding{Invariant::OmegaSettings,
+                               std::string(list == &omega.Faction ? "Omega.Faction" : "Omega.Rank") + " is on row " +
+                                   Shown(list->index()) + ", Alpha's on " + Shown(alphas.index())};
+        }
+        for (const Pair& pair : m_omegaCopies)
+            if (auto finding = copied(pair)) return finding;
+    }
+    // Omega's factors are worked out only while it is on show. Attack
+    // Pattern Beta lowers the resistance by the vessel's own skills, which
+    // may be free while its settings follow.
+    if (s.Comparing == 0) return std::nullopt;
+    const bool sameResistance = s.AttackPatternBeta[1] == s.AttackPatternBeta[2];
     for (const CombatFactor& f : kMirroredFactors) {
-        if (!(f.factors == &CalculatorState::ResistanceFactor ? sameResistance : relative)) continue;
+        if (f.factors == &CalculatorState::ResistanceFactor && !sameResistance) continue;
         const PerVessel<float>& factor = s.*f.factors;
         if (!SameBits(factor[1], factor[2]))
             return Finding{Invariant::OmegaSettings, "State." + std::string(f.name) + "[2] is " + Shown(factor[2]) +
@@ -557,8 +690,56 @@ std::optional<Finding> Invariants::omegaSettings() const {
     return std::nullopt;
 }
 
+std::optional<Finding> Invariants::copied(const Pair& pair) const {
+    const ControlRef& o = *pair.omega;
+    const ControlRef& a = *pair.alpha;
+    switch (o.kind()) {
+    case ValueKind::Text: {
+        // What only Alpha accepts (47) arrives as Omega's box makes it.
+        const Text& box = *std::get<Text*>(o.target);
+        std::string expected = std::get<Text*>(a.target)->text();
+        if (pair.kind) expected = CorrectedText(*pair.kind, 2, expected, box.enabled()).value_or(expected);
+        if (box.text() != expected)
+            return Finding{Invariant::OmegaSettings, o.name + " holds " + Shown(box.text()) + ", Alpha's " +
+                                                         Shown(std::get<Text*>(a.target)->text())};
+        return std::nullopt;
+    }
+    case ValueKind::List: {
+        const int omegas = std::get<List*>(o.target)->index();
+        const int alphas = std::get<List*>(a.target)->index();
+        if (omegas != alphas)
+            return Finding{Invariant::OmegaSettings,
+                           o.name + " is on row " + Shown(omegas) + ", Alpha's on " + Shown(alphas)};
+        return std::nullopt;
+    }
+    case ValueKind::Flag: {
+        const int omegas = std::get<Flag*>(o.target)->value();
+        const int alphas = std::get<Flag*>(a.target)->value();
+        if (omegas != alphas)
+            return Finding{Invariant::OmegaSettings, o.name + " is " + Shown(omegas) + ", Alpha's " + Shown(alphas)};
+        return std::nullopt;
+    }
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<Finding> Invariants::noteHolds() const {
+    const bool held = m_c.note.Form.visible();
+    for (const Window* w : {&m_c.main.Form1, &m_c.Alpha().Form, &m_c.Omega().Form}) {
+        if (w->enabled() != held) continue;
+        const char* name = w == &m_c.main.Form1 ? "Form1" : w == &m_c.Alpha().Form ? "Alpha" : "Omega";
+        return Finding{Invariant::NoteHolds,
+                       std::string(name) + (held ? " is open while the note shows" : " is held without the note")};
+    }
+    return std::nullopt;
+}
+
 std::optional<Finding> Invariants::omegaSkills() const {
     if (m_c.skills[2].SameAsAlpha.value() != 1) return std::nullopt;
+    for (const ControlRef* ref : m_omegaSkillsInputs)
+        if (ref->control->enabled())
+            return Finding{Invariant::OmegaSkills, ref->name + " is open while Omega follows Alpha's skills"};
     for (const SkillLevel& k : kMirroredSkills) {
         const PerVessel<std::int16_t>& level = m_c.state.*k.levels;
         // Targets are counted from 0 until a vessel's first SkillUpdate; every
@@ -597,19 +778,6 @@ std::optional<Finding> Invariants::arcDPS() {
     return std::nullopt;
 }
 
-void OpenWindowsByTheirButtons(Calculator& c) {
-    for (Vessel v = 1; v <= 2; ++v) {
-        Button& advanced = c.main.Advanced[v];
-        Window& settings = c.settings[v].Form;
-        advanced.setHandler([&advanced, &settings] {
-            settings.setVisible(!settings.visible());
-            advanced.setCaption(settings.visible() ? "Hide Settings" : "Show Settings");
-        });
-        Window& skills = c.skills[v].Form;
-        c.main.Skills[v].setHandler([&skills] { skills.setVisible(!skills.visible()); });
-    }
-}
-
 SoakReport RunSoak(std::uint64_t seed, long actions, const SoakOptions& options) {
     SoakReport report;
     report.seed = seed;
@@ -622,7 +790,6 @@ SoakReport RunSoak(std::uint64_t seed, long actions, const SoakOptions& options)
         program.workHeight = options.screen->height;
     }
     ShowMainWindowAtStart(program);
-    if (options.prepare) options.prepare(program);
     const ControlRegistry registry(program);
     const std::vector<const ControlRef*> controls = ActionableControls(registry);
     Invariants invariants(program, registry);
@@ -639,6 +806,7 @@ SoakReport RunSoak(std::uint64_t seed, long actions, const SoakOptions& options)
         }
         done.push_back(action);
         ++report.actions;
+        ++report.actionsByWindow[action.control->window];
         finding = invariants.perform(action);
         if (finding) break;
         if (!invariants.awaitingRecalculation()) ++report.compared;
@@ -652,7 +820,6 @@ SoakReport RunSoak(std::uint64_t seed, long actions, const SoakOptions& options)
         if (ch == '\n' || ch == '\r') ch = ' ';
     report.script = "# vantorel-soak, seed " + std::to_string(seed) + ", action " + std::to_string(report.actions) +
                     ": " + std::string(InvariantName(finding->invariant)) + ": " + detail + "\n";
-    if (options.prepare) report.script += "# on a program prepared before the first action\n";
     if (options.screen)
         report.script += "# on a work area of " + std::to_string(options.screen->width) + " x " +
                          std::to_string(options.screen->height) + " twips\n";

@@ -1,16 +1,19 @@
 #pragma once
 
 // The random-action soak: a fresh program, as its main window first shows,
-// takes one action after another that a user could take at that moment,
-// picked by a seeded generator, and after each action the rules that must
-// always hold are checked. The first rule broken ends the run with the
-// actions so far as a vantorel-cli script, so that it can be replayed.
+// takes one action after another that a user could take at that moment on
+// any window on show, picked by a seeded generator, and after each action the
+// rules that must always hold are checked. The first rule broken ends the run
+// with the actions so far as a vantorel-cli script, so that it can be
+// replayed.
 
 #include "mainwindow/layout.h"
 #include "program/actions.h"
+#include "settings/validate.h"
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,8 +29,12 @@ enum class Invariant {
     ListIndex,     // a list's index is -1 or one of its rows, whose text it shows
     DPSCaption,    // a DPS box shows a number in plain text, or nothing
     Comparing,     // State.Comparing agrees with what the main window shows
-    OmegaSettings, // a mirrored Omega has Alpha's combat factors
-    OmegaSkills,   // a mirrored Omega has Alpha's skill levels
+    NumberBox,     // a settings window's number box holds a text that it accepts
+    Shade,         // a settings box is white while in use and grey while not
+    OmegaReadOnly, // a mirrored Omega's window has only its own few controls open
+    OmegaSettings, // a mirrored Omega holds Alpha's settings and combat factors
+    OmegaSkills,   // a mirrored Omega has Alpha's skill levels, its window closed
+    NoteHolds,     // the note holds the main and settings windows exactly while open
     Recalculation, // a recalculation now would change nothing
     ArcDPS,        // each row of a vessel on show is the DPS of its weapons
 };
@@ -82,11 +89,29 @@ class Invariants final {
     int deepestNesting() const { return m_deepest; }
 
   private:
+    // A number box of a settings window and the limits it keeps.
+    struct Box {
+        const ControlRef* ref;
+        NumberBox kind;
+        Vessel vessel;
+    };
+    // A control of Omega's settings window and Alpha's control of that name.
+    struct Pair {
+        const ControlRef* omega;
+        const ControlRef* alpha;
+        std::optional<NumberBox> kind;
+    };
+
     std::optional<Finding> listIndexes() const;
     std::optional<Finding> dpsCaptions() const;
     std::optional<Finding> comparing() const;
-    std::optional<Finding> omegaSettings() const;
+    std::optional<Finding> numberBoxes() const;
+    std::optional<Finding> shades() const;
+    std::optional<Finding> omegaReadOnly() const;
+    std::optional<Finding> omegaSettings();
+    std::optional<Finding> copied(const Pair& pair) const;
     std::optional<Finding> omegaSkills() const;
+    std::optional<Finding> noteHolds() const;
     std::optional<Finding> recalculation();
     std::optional<Finding> arcDPS();
 
@@ -98,6 +123,18 @@ class Invariants final {
     const ControlRef* m_hideCompare;
     std::vector<const ControlRef*> m_omegaColumn;
     std::vector<const ControlRef*> m_omegaOnlyWhileComparing;
+    std::vector<Box> m_boxes;
+    // The boxes and lists of the settings windows whose colour tells whether
+    // they are in use; the console slots take theirs from their equip box.
+    std::vector<const ControlRef*> m_shaded;
+    // Omega's controls that a user works, but for the few that stay open
+    // while it mirrors Alpha.
+    std::vector<const ControlRef*> m_omegaInputs;
+    std::vector<Pair> m_omegaCopies;
+    std::vector<const ControlRef*> m_omegaSkillsInputs;
+    // Whether a mirrored Omega's values can be held to Alpha's; see
+    // omegaSettings().
+    bool m_omegaComparable = true;
     std::vector<std::pair<Control*, std::function<void()>>> m_handlers;
     int m_depth = 0;
     int m_deepest = 0;
@@ -108,10 +145,6 @@ class Invariants final {
 struct SoakOptions {
     // The work area of the screen in twips; the program's own if none.
     std::optional<WorkArea> screen;
-    // Run on the program after its start, before the checks and the first
-    // action: for runs that reach further than the program's own controls
-    // do yet. Its script then replays only on a program prepared alike.
-    std::function<void(Calculator&)> prepare;
 };
 
 struct SoakReport {
@@ -121,15 +154,12 @@ struct SoakReport {
     // recalculation: all but those that leave a typed text waiting.
     long compared = 0;
     int deepestNesting = 0;
+    // The actions performed on each window's controls, by the window's name.
+    std::map<std::string, long> actionsByWindow;
     std::optional<Finding> finding;
     // With a finding: the actions so far as a vantorel-cli script.
     std::string script;
 };
-
-// A preparation that lets `Advanced[v]` and `Skills[v]` show and hide their
-// vessel's settings and skills windows, as they will once those windows are
-// built, so that a run reaches the windows' controls.
-void OpenWindowsByTheirButtons(Calculator& c);
 
 // Takes up to `actions` actions on a fresh program, from `seed`.
 SoakReport RunSoak(std::uint64_t seed, long actions, const SoakOptions& options = {});

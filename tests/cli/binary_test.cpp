@@ -194,7 +194,7 @@ TEST_F(Binary, ExitsWithOneWhenTheOutputCannotBeWritten) {
         {"a print", "-", write("script.txt", script), 1, "cannot write the output: No space left on device\n"},
         {"the whole state", "-", "/dev/null", 1, "cannot write the output: No space left on device\n"},
         {"the help", "--help", "/dev/null", 1, "vantorel-cli: cannot write the output: No space left on device\n"},
-        {"a bad script still says where", "-", write("bad.txt", "bogus\n"), 2, "line 1: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print\n"},
+        {"a bad script still says where", "-", write("bad.txt", "bogus\n"), 2, "line 1: unknown verb \"bogus\"; the verbs are select, check, type, click, close, set and print\n"},
     };
     // clang-format on
     for (const Case& c : cases) {

@@ -85,6 +85,21 @@ TEST(Script, EachVerbRaisesTheEventsOfItsControl) {
     EXPECT_EQ(std::tuple(c.skills[1].Targets.text(), targets, reset), std::tuple("3", 1, 2));
 }
 
+// A frame's close runs the window's own answer: the settings and skills
+// windows hide, the graph really closes; a window without one just hides.
+TEST(Script, CloseAsksTheWindowsFrame) {
+    Program c;
+    int asked = 0;
+    c.settings[1].Form.setHandler([&] { ++asked; });
+    c.settings[1].Form.setVisible(true);
+    c.graph.Form.setVisible(true);
+    const Result r = RunOn(c, "close Alpha\nclose Graph\n");
+    ASSERT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(asked, 1);
+    EXPECT_TRUE(c.settings[1].Form.visible()) << "the handler decides";
+    EXPECT_FALSE(c.graph.Form.visible());
+}
+
 TEST(Script, SetAssignsAsTheProgramDoesEvenOnHiddenControls) {
     // clang-format off
     struct Case { const char* name; const char* script; /* ends by printing exactly one name */ const char* printed; const char* expected; /* a part of the printed value */ } cases[] = {
@@ -118,7 +133,7 @@ TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
     const std::function<void(Calculator&)> none;
     // clang-format off
     struct Case { const char* name; std::function<void(Calculator&)> setup; std::string script; std::string expected; /* the whole message */ } cases[] = {
-        {"unknown verb", none, "\n# a comment\npress Form1.Reset", "line 3: unknown verb \"press\"; the verbs are select, check, type, click, set and print"},
+        {"unknown verb", none, "\n# a comment\npress Form1.Reset", "line 3: unknown verb \"press\"; the verbs are select, check, type, click, close, set and print"},
         {"unknown control", none, "click Form1.Rest", "line 1: unknown control Form1.Rest"},
         {"unknown window", none, "check Gamma.RelativeDPS 1", "line 1: unknown control Gamma.RelativeDPS"},
         {"missing control", none, "click", "line 1: click: the name of a control is missing"},
@@ -138,6 +153,10 @@ TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
         {"unknown escape", none, "type Form1.Forward[1] \"a\\nb\"", "line 1: malformed text: only \\\" and \\\\ may follow a backslash"},
         {"text after the value", none, "check Form1.Simplified 1 0", "line 1: check Form1.Simplified: unexpected text after the value: 0"},
         {"value for a button", none, "click Form1.Reset now", "line 1: click Form1.Reset: a button takes no value, got now"},
+        {"close a button", none, "close Form1.Reset", "line 1: close Form1.Reset: not a window but a button; use click"},
+        {"close a hidden window", none, "close Alpha", "line 1: close Alpha: refused, the window is hidden"},
+        {"value for a frame", [](Calculator& c) { c.graph.Form.setVisible(true); }, "close Graph now", "line 1: close Graph: a window's frame takes no value, got now"},
+        {"close a held window", [](Calculator& c) { c.settings[1].Form.setVisible(true); c.settings[1].Form.setEnabled(false); }, "close Alpha", "line 1: close Alpha: refused, the window is disabled"},
         {"wrong verb", none, "click Form1.Simplified", "line 1: click Form1.Simplified: not a button but a check box; use check"},
         {"user verb on state", none, "check State.SuppressPowerWarning 1", "line 1: check State.SuppressPowerWarning: not a check box but an engine value"},
         {"typing refused", none, "type Form1.ShipClass[1] \"Escort\"", "line 1: type Form1.ShipClass[1]: refused, the list takes no typing; select a row"},
@@ -155,14 +174,14 @@ TEST(Script, BadLinesNameTheirLineAndControlAndPrintNothing) {
         {"print: extra text", none, "print Form1.Note Form1.Help", "line 1: print Form1.Note: unexpected text after the value: Form1.Help"},
         {"long name cut", none, "click Form1." + std::string(300, 'X'), "line 1: unknown control Form1." + std::string(94, 'X') + "..."},
         {"a hundred characters are not cut", none, "click " + std::string(100, 'c'), "line 1: unknown control " + std::string(100, 'c')},
-        {"long verb cut", none, std::string(150, 'v') + " Form1.Reset", "line 1: unknown verb \"" + std::string(100, 'v') + "...\"; the verbs are select, check, type, click, set and print"},
+        {"long verb cut", none, std::string(150, 'v') + " Form1.Reset", "line 1: unknown verb \"" + std::string(100, 'v') + "...\"; the verbs are select, check, type, click, close, set and print"},
         {"cut after a whole character", none, "click " + std::string(99, 'a') + "\xc3\xa9zz", "line 1: unknown control " + std::string(99, 'a') + "\xc3\xa9..."},
         {"control characters escaped", none, "click Form1.\x01\x7f", "line 1: unknown control Form1.\\u0001\\u007f"},
         {"long value cut", none, "check Form1.Simplified " + std::string(200, '7'), "line 1: check Form1.Simplified: malformed value " + std::string(100, '7') + "..., expected 0 or 1"},
         {"long index cut", none, "select Form1.Forward[" + std::string(200, '9') + "] #1", "line 1: Form1.Forward[" + std::string(86, '9') + "...: index out of range; Form1.Forward[1] to Form1.Forward[4]"},
         {"long text after the value cut", none, "check Form1.Simplified 1 " + std::string(200, 'x'), "line 1: check Form1.Simplified: unexpected text after the value: " + std::string(100, 'x') + "..."},
         {"long pattern cut", none, "print Nothing" + std::string(200, '?'), "line 1: print Nothing" + std::string(93, '?') + "...: no control or engine value matches"},
-        {"blank and comment lines count", none, "   \n# a comment\n\t# indented\r\n\r\nclick Form1.Reset\r\n\nbogus\n", "line 7: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
+        {"blank and comment lines count", none, "   \n# a comment\n\t# indented\r\n\r\nclick Form1.Reset\r\n\nbogus\n", "line 7: unknown verb \"bogus\"; the verbs are select, check, type, click, close, set and print"},
     };
     // clang-format on
     for (const Case& k : cases) {
@@ -267,10 +286,10 @@ TEST(Script, AScrollBarTakesOnlyTheValuesBetweenZeroAndItsMaximum) {
 TEST(Script, LfCrlfAndALoneCrEachEndALine) {
     // clang-format off
     struct Case { const char* name; const char* script; /* sets Form1.Note to "a" */ const char* expected; /* the message; "" when the script runs */ } cases[] = {
-        {"lone CR", "# a note\rset Form1.Note \"a\"\rbogus\r", "line 3: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
+        {"lone CR", "# a note\rset Form1.Note \"a\"\rbogus\r", "line 3: unknown verb \"bogus\"; the verbs are select, check, type, click, close, set and print"},
         {"lone CR, no error", "# a note\rset Form1.Note \"a\"\rprint Form1.Note", ""},
-        {"CRLF is one end", "# a note\r\n\r\nset Form1.Note \"a\"\r\nbogus", "line 4: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
-        {"LF then CR are two", "# a note\n\rset Form1.Note \"a\"\nbogus", "line 4: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print"},
+        {"CRLF is one end", "# a note\r\n\r\nset Form1.Note \"a\"\r\nbogus", "line 4: unknown verb \"bogus\"; the verbs are select, check, type, click, close, set and print"},
+        {"LF then CR are two", "# a note\n\rset Form1.Note \"a\"\nbogus", "line 4: unknown verb \"bogus\"; the verbs are select, check, type, click, close, set and print"},
         {"mixed", "set Form1.Note \"a\"\r# b\nprint Form1.Note\r\n", ""},
         {"CR ends a text", "set Form1.Note \"a\"\rset Form1.Note \"b\r\"", "line 2: malformed text: the closing \" is missing"},
     };
@@ -360,7 +379,7 @@ TEST(Script, AnOutputThatCannotBeWrittenIsAFailureOfItsOwn) {
     struct Case { const char* name; const char* script; int status; const char* says; } cases[] = {
         {"a print", "print Form1.Note", kOutputFailed, "cannot write the output\n"},
         {"the whole state", "# nothing", kOutputFailed, "cannot write the output\n"},
-        {"a bad line comes first", "print Form1.Note\nbogus", kBadScript, "line 2: unknown verb \"bogus\"; the verbs are select, check, type, click, set and print\n"},
+        {"a bad line comes first", "print Form1.Note\nbogus", kBadScript, "line 2: unknown verb \"bogus\"; the verbs are select, check, type, click, close, set and print\n"},
     };
     // clang-format on
     for (const Case& k : cases) {

@@ -1,15 +1,11 @@
-// vantorel-soak [--actions N] [--seed S] [--per-run L] [--scripts DIR] [--open-windows]
+// vantorel-soak [--actions N] [--seed S] [--per-run L] [--scripts DIR]
 //
 // Walks N random user actions (default 1,000,000) through fresh programs of L
-// actions each (default 10,000), seeded S, S+1, ... (default 1); every other
-// program opens on a small screen, so that the scroll bars take part. Prints
-// the actions walked, the time and every finding; with --scripts, writes
-// each finding's actions as a vantorel-cli script into DIR.
-//
-// --open-windows also lets `Advanced[v]` and `Skills[v]` show and hide their
-// vessel's settings and skills windows, which the main window cannot do yet,
-// so that the walk reaches their controls. Such a run's scripts replay only on
-// a program wired alike.
+// actions each (default 10,000), seeded S, S+1, ... (default 1), on every
+// window that the program's own buttons open; every other program opens on a
+// small screen, so that the scroll bars take part. Prints the actions walked,
+// the time, the actions on each window and every finding; with --scripts,
+// writes each finding's actions as a vantorel-cli script into DIR.
 
 #include "program/soak.h"
 
@@ -27,8 +23,7 @@ namespace {
 constexpr int kBadUsage = 2;
 constexpr unsigned long long kShownPerRule = 3;
 
-const char* const kUsage =
-    "usage: vantorel-soak [--actions N] [--seed S] [--per-run L] [--scripts DIR] [--open-windows]\n";
+const char* const kUsage = "usage: vantorel-soak [--actions N] [--seed S] [--per-run L] [--scripts DIR]\n";
 
 bool ReadNumber(const char* text, unsigned long long& value) {
     char* end = nullptr;
@@ -42,16 +37,11 @@ bool ReadNumber(const char* text, unsigned long long& value) {
 int main(int argc, char** argv) {
     unsigned long long total = 1000000, seed = 1, perRun = 10000;
     std::string scripts;
-    bool openWindows = false;
     for (int i = 1; i < argc; ++i) {
         const std::string_view arg = argv[i];
         if (arg == "--help" || arg == "-h") {
             std::cout << kUsage;
             return 0;
-        }
-        if (arg == "--open-windows") {
-            openWindows = true;
-            continue;
         }
         if (i + 1 >= argc) {
             std::cerr << kUsage;
@@ -81,16 +71,18 @@ int main(int argc, char** argv) {
     unsigned long long walked = 0, compared = 0, runs = 0, findings = 0;
     int deepest = 0;
     std::map<std::string, unsigned long long> byRule;
+    std::map<std::string, unsigned long long> byWindow;
     for (unsigned long long s = seed; walked < total; ++s) {
         vantorel::SoakOptions options;
         if (runs % 2 == 1) options.screen = smallScreen;
-        if (openWindows) options.prepare = vantorel::OpenWindowsByTheirButtons;
         const long length = static_cast<long>(std::min(perRun, total - walked));
         const vantorel::SoakReport report = vantorel::RunSoak(s, length, options);
         ++runs;
         walked += static_cast<unsigned long long>(report.actions);
         compared += static_cast<unsigned long long>(report.compared);
         deepest = std::max(deepest, report.deepestNesting);
+        for (const auto& [window, count] : report.actionsByWindow)
+            byWindow[window] += static_cast<unsigned long long>(count);
         if (!report.finding) continue;
         ++findings;
         const std::string rule(vantorel::InvariantName(report.finding->invariant));
@@ -115,6 +107,9 @@ int main(int argc, char** argv) {
               << "compared with a fresh recalculation after " << compared << " of them\n"
               << "deepest chain of events: " << deepest << "\n"
               << "findings: " << findings << "\n";
+    std::cout << "actions by window:\n";
+    for (const auto& [window, count] : byWindow)
+        std::cout << "  " << window << ": " << count << "\n";
     for (const auto& [rule, count] : byRule)
         std::cout << "  " << count << " x " << rule << "\n";
     return findings == 0 ? 0 : 1;

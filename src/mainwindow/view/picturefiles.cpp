@@ -1,7 +1,10 @@
 #include "mainwindow/view/picturefiles.h"
 
+#include "catalogue/pictures.h"
+
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace vantorel {
@@ -11,6 +14,28 @@ Q_LOGGING_CATEGORY(PicturesLog, "vantorel.pictures", QtWarningMsg)
 namespace {
 
 bool HoldsPictures(const QString& folder) { return QFileInfo(folder + QStringLiteral("/Alpha")).isDir(); }
+
+// The picture in the file, or a null pixmap. Only a plain file is opened, so
+// that a folder or a pipe under a picture's name cannot hold the window up,
+// and it is opened to read and nothing else. Only a whole picture reaches the
+// decoder.
+QPixmap ReadWholePicture(const QString& path, PictureFile kind) {
+    const QFileInfo info(path);
+    QPixmap pixmap;
+    if (info.isFile() && info.size() > 0 && info.size() <= qint64(kLargestPictureFile)) {
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly)) {
+            const QByteArray bytes = file.read(qint64(kLargestPictureFile) + 1);
+            if (IsWholePicture(std::string_view(bytes.constData(), std::size_t(bytes.size())), kind))
+                pixmap.loadFromData(bytes, kind == PictureFile::Jpeg ? "JPG" : "GIF");
+        }
+    }
+    if (pixmap.isNull())
+        qCInfo(PicturesLog).noquote() << "cannot read" << path;
+    else
+        qCInfo(PicturesLog).noquote() << "read" << path << pixmap.width() << "x" << pixmap.height();
+    return pixmap;
+}
 
 } // namespace
 
@@ -34,15 +59,17 @@ QString PictureFolder() {
 }
 
 QPixmap ReadPicture(const QString& folder, const QString& key, const QString& ending, double density) {
+    const PictureFile kind = ending == QStringLiteral(".jpg") ? PictureFile::Jpeg : PictureFile::Gif;
     const QString plain = folder + QLatin1Char('/') + key + ending;
-    const QString sharp = folder + QLatin1Char('/') + key + QStringLiteral("@2x") + ending;
-    const QString file = density > 1.0 && QFileInfo::exists(sharp) ? sharp : plain;
-    QPixmap pixmap;
-    if (pixmap.load(file))
-        qCInfo(PicturesLog).noquote() << "read" << file << pixmap.width() << "x" << pixmap.height();
-    else
-        qCInfo(PicturesLog).noquote() << "cannot read" << file;
-    return pixmap;
+    if (density > 1.0) {
+        const QString sharp = folder + QLatin1Char('/') + key + QStringLiteral("@2x") + ending;
+        QPixmap pixmap = ReadWholePicture(sharp, kind);
+        if (!pixmap.isNull()) {
+            pixmap.setDevicePixelRatio(2.0);
+            return pixmap;
+        }
+    }
+    return ReadWholePicture(plain, kind);
 }
 
 } // namespace vantorel

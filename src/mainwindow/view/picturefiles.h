@@ -24,7 +24,8 @@ QString PictureFolder();
 // the folder. On a screen of more device pixels than pixels (`density` above
 // 1) the drawing at twice the size, NAME@2x, is read where it is present;
 // Qt gives it a device pixel ratio of 2, so it paints in the same place at
-// full sharpness. A missing or broken file gives a null pixmap.
+// full sharpness. A missing, broken or cut file, or anything but a plain file, gives a null
+// pixmap; a broken drawing at twice the size falls back to the plain one.
 QPixmap ReadPicture(const QString& folder, const QString& key, const QString& ending, double density);
 
 } // namespace vantorel

@@ -1,5 +1,6 @@
 #include "mainwindow/view/shipview.h"
 
+#include "catalogue/pictures.h"
 #include "engine/records.h"
 #include "gui/twips.h"
 #include "mainwindow/shipimage.h"
@@ -126,9 +127,10 @@ void ShipView::loadPictures() {
 void ShipView::loadPicture(const QString& key) {
     if (m_pictures.contains(key)) return;
     const QString ending = key.startsWith(QStringLiteral("Alpha/")) ? QStringLiteral(".jpg") : QStringLiteral(".gif");
-    // A missing or broken file leaves a null pixmap: the view shows empty
-    // space. The pictures are read once, at the density of the sharpest
-    // screen; on another screen they are scaled smoothly.
+    // A missing or broken file leaves a null pixmap: the view shows a plain
+    // square, or half of one for Omega. The pictures are read once, at the
+    // density of the sharpest screen; on another screen they are scaled
+    // smoothly.
     m_pictures.insert(key, ReadPicture(m_folder, key, ending, qGuiApp->devicePixelRatio()));
 }
 
