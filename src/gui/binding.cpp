@@ -18,11 +18,19 @@ namespace {
 
 QString ToQString(const std::string& s) { return QString::fromStdString(s); }
 
+// Whether a role has one colour in every state of the widget: a disabled
+// control shows its field's colours too, not the style's.
+bool Holds(const QPalette& p, QPalette::ColorRole role, const QColor& c) {
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        if (p.color(group, role) != c) return false;
+    return true;
+}
+
 void SetPalette(QWidget* w, QPalette::ColorRole backRole, QPalette::ColorRole foreRole, const Control& f) {
     const QColor back = ToQColor(f.back());
     const QColor fore = ToQColor(f.fore());
     const QPalette& now = w->palette();
-    if (now.color(backRole) == back && now.color(foreRole) == fore) return;
+    if (Holds(now, backRole, back) && Holds(now, foreRole, fore)) return;
     QPalette p = now;
     p.setColor(backRole, back);
     p.setColor(foreRole, fore);
