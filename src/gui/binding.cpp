@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCompleter>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -18,11 +19,19 @@ namespace {
 
 QString ToQString(const std::string& s) { return QString::fromStdString(s); }
 
+// Whether a role has one colour in every state of the widget: a disabled
+// control shows its field's colours too, not the style's.
+bool Holds(const QPalette& p, QPalette::ColorRole role, const QColor& c) {
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        if (p.color(group, role) != c) return false;
+    return true;
+}
+
 void SetPalette(QWidget* w, QPalette::ColorRole backRole, QPalette::ColorRole foreRole, const Control& f) {
     const QColor back = ToQColor(f.back());
     const QColor fore = ToQColor(f.fore());
     const QPalette& now = w->palette();
-    if (now.color(backRole) == back && now.color(foreRole) == fore) return;
+    if (Holds(now, backRole, back) && Holds(now, foreRole, fore)) return;
     QPalette p = now;
     p.setColor(backRole, back);
     p.setColor(foreRole, fore);
@@ -54,6 +63,26 @@ template <typename W, typename F, typename Show> void Attach(W* widget, F& field
     const QSignalBlocker blocker(widget);
     show(widget, field, twips);
 }
+
+// Enter presses a button that has the focus, as Space does: a window's
+// buttons are not a dialog's, where only the default button takes Enter.
+class EnterPresses final : public QObject {
+  public:
+    explicit EnterPresses(QPushButton* button) : QObject(button), m_button(button) {}
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched != m_button || event->type() != QEvent::KeyPress) return false;
+        const auto* key = static_cast<const QKeyEvent*>(event);
+        const Qt::KeyboardModifiers modifiers = key->modifiers() & ~Qt::KeypadModifier;
+        if ((key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter) || modifiers != Qt::NoModifier) return false;
+        m_button->click();
+        return true;
+    }
+
+  private:
+    QPushButton* m_button;
+};
 
 void ShowLabel(QLabel* w, const Label& f, const Twips& twips) {
     const QString caption = ToQString(f.caption());
@@ -204,6 +233,9 @@ void Bind(QComboBox* widget, List& field, const Twips& twips) {
         QObject::connect(widget->lineEdit(), &QLineEdit::textEdited, widget,
                          [&field](const QString& text) { field.setText(text.toStdString()); });
     }
+    // A row chosen in the drop-down, and equally one that the arrow keys,
+    // Home, End, the page keys, a typed initial or the wheel choose on the
+    // closed list: the list activates it, and the field takes it as a click.
     QObject::connect(widget, &QComboBox::activated, widget, [&field](int row) { field.click(row); });
     Attach(widget, field, twips, ShowList);
 }
@@ -215,6 +247,7 @@ void Bind(QCheckBox* widget, Flag& field, const Twips& twips) {
 }
 
 void Bind(QPushButton* widget, Button& field, const Twips& twips) {
+    widget->installEventFilter(new EnterPresses(widget));
     QObject::connect(widget, &QPushButton::clicked, widget, [&field] { field.press(); });
     Attach(widget, field, twips, ShowButton);
 }

@@ -4,6 +4,7 @@
 
 #include <QCloseEvent>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QWidget>
@@ -90,6 +91,12 @@ bool TopLevel::eventFilter(QObject* watched, QEvent* event) {
         // The frame's close button: the field decides; the widget itself
         // never closes on its own.
         event->ignore();
+        m_field.requestClose();
+        return true;
+    }
+    case QEvent::KeyPress: {
+        const auto* key = static_cast<const QKeyEvent*>(event);
+        if (!m_escapeCloses || key->key() != Qt::Key_Escape || key->modifiers() != Qt::NoModifier) break;
         m_field.requestClose();
         return true;
     }

@@ -43,6 +43,9 @@ class TopLevel final : public QObject {
     // The window is closed for good: it no longer follows its field nor
     // tells it of anything.
     void detach();
+    // Escape, where no control of the window takes it, is the frame's close
+    // button: a close request that the field's handler answers.
+    void closeOnEscape() { m_escapeCloses = true; }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -54,6 +57,7 @@ class TopLevel final : public QObject {
     Following m_followingBy;
     std::function<void()> m_resized;
     bool m_detached = false;
+    bool m_escapeCloses = false;
     // True while the window follows its field: the events that this raises
     // are not the user's.
     bool m_following = false;

@@ -2,6 +2,7 @@
 // that neither layout needs a scroll bar. Every action goes through the
 // widgets as a user's would: rows chosen in the drop-down, buttons clicked.
 
+#include "agreement.h"
 #include "gui/binding.h"
 #include "gui/twips.h"
 #include "mainwindow/layout.h"
@@ -28,94 +29,14 @@ using namespace vantorel;
 
 namespace {
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
-
-// Chooses a row the way a user does: open the drop-down, move to the row,
-// press Return.
-void ChooseRow(QComboBox* list, int row) {
-    list->showPopup();
-    QAbstractItemView* rows = list->view();
-    rows->setCurrentIndex(rows->model()->index(row, 0));
-    QTest::keyClick(rows, Qt::Key_Return);
-}
+using test::ChooseRow;
+using test::Q;
 
 int RowOf(const QComboBox* list, const QString& text) {
     for (int i = 0; i < list->count(); ++i) {
         if (list->itemText(i).contains(text)) return i;
     }
     return -1;
-}
-
-// Whether the widget shows what its field holds; the differences, by name.
-QStringList Disagreements(const QWidget& window, const ControlRegistry& registry, const gui::Twips& twips) {
-    QStringList wrong;
-    for (const ControlRef& ref : registry.all()) {
-        if (ref.window != "Form1") continue;
-        const ValueKind kind = ref.kind();
-        if (kind != ValueKind::List && kind != ValueKind::Label && kind != ValueKind::Button &&
-            kind != ValueKind::Flag && kind != ValueKind::ScrollBar && kind != ValueKind::Control)
-            continue;
-        const QString name = Q(ref.name);
-        const QWidget* w = window.findChild<QWidget*>(name);
-        if (!w) {
-            wrong << name + ": no widget";
-            continue;
-        }
-        const Control& f = *ref.control;
-        if (w->isHidden() == f.visible()) wrong << name + ": visible";
-        if (w->isEnabled() != f.enabled()) wrong << name + ": enabled";
-        if (w->geometry() != twips.rect(f)) wrong << name + ": place";
-        switch (kind) {
-        case ValueKind::Label: {
-            const Label& label = *std::get<Label*>(ref.target);
-            const auto* q = qobject_cast<const QLabel*>(w);
-            if (q->text() != Q(label.caption())) wrong << name + ": caption";
-            if (q->toolTip() != Q(label.tooltip())) wrong << name + ": tooltip";
-            if (q->palette().color(QPalette::WindowText) != gui::ToQColor(label.fore())) wrong << name + ": fore";
-            if (q->autoFillBackground() && q->palette().color(QPalette::Window) != gui::ToQColor(label.back()))
-                wrong << name + ": back";
-            break;
-        }
-        case ValueKind::Button: {
-            const Button& button = *std::get<Button*>(ref.target);
-            const auto* q = qobject_cast<const QPushButton*>(w);
-            if (q->text() != Q(button.caption())) wrong << name + ": caption";
-            if (q->toolTip() != Q(button.tooltip())) wrong << name + ": tooltip";
-            break;
-        }
-        case ValueKind::List: {
-            const List& list = *std::get<List*>(ref.target);
-            const auto* q = qobject_cast<const QComboBox*>(w);
-            bool sameRows = q->count() == list.count();
-            for (int i = 0; sameRows && i < list.count(); ++i)
-                sameRows = q->itemText(i) == Q(list.row(i));
-            if (!sameRows) wrong << name + ": rows";
-            if (q->currentIndex() != list.index()) wrong << name + ": index";
-            if (q->isEditable() != list.typing()) wrong << name + ": typing";
-            if (list.typing() && q->currentText() != Q(list.text())) wrong << name + ": text";
-            if (q->toolTip() != Q(list.tooltip())) wrong << name + ": tooltip";
-            break;
-        }
-        case ValueKind::Flag: {
-            const Flag& flag = *std::get<Flag*>(ref.target);
-            const auto* q = qobject_cast<const QCheckBox*>(w);
-            if (q->isChecked() != (flag.value() != 0)) wrong << name + ": value";
-            if (q->text() != Q(flag.caption())) wrong << name + ": caption";
-            if (q->toolTip() != Q(flag.tooltip())) wrong << name + ": tooltip";
-            break;
-        }
-        case ValueKind::ScrollBar: {
-            const ScrollBar& bar = *std::get<ScrollBar*>(ref.target);
-            const auto* q = qobject_cast<const QScrollBar*>(w);
-            if (q->value() != bar.value()) wrong << name + ": value";
-            if (q->maximum() != std::max(bar.maximum(), 0)) wrong << name + ": maximum";
-            break;
-        }
-        default:
-            break;
-        }
-    }
-    return wrong;
 }
 
 } // namespace
@@ -295,8 +216,7 @@ class MainWindowTest final : public QObject {
 
     void everyWidgetAgreesWithItsField() {
         const ControlRegistry registry(*m_c);
-        const gui::Twips twips = gui::Twips::forScreen(m_window->screen());
-        QStringList wrong = Disagreements(*m_window, registry, twips);
+        QStringList wrong = test::Disagreements(*m_window, registry, "Form1");
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(QStringLiteral("; "))));
 
         // A cascade: another ship class rebuilds tiers, subclasses and ports.
@@ -307,7 +227,7 @@ class MainWindowTest final : public QObject {
         QTest::mouseClick(button(QStringLiteral("Compare")), Qt::LeftButton);
         QComboBox* omegaClass = list(QStringLiteral("ShipClass[2]"));
         ChooseRow(omegaClass, RowOf(omegaClass, QStringLiteral("Cruiser")));
-        wrong = Disagreements(*m_window, registry, twips);
+        wrong = test::Disagreements(*m_window, registry, "Form1");
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(QStringLiteral("; "))));
     }
 };

@@ -2,6 +2,7 @@
 // 1366 x 768 at 96 dpi: lower than a settings window's page, so the page
 // scrolls. Every action goes through the widgets as a user's would.
 
+#include "agreement.h"
 #include "gui/binding.h"
 #include "gui/twips.h"
 #include "mainwindow/layout.h"
@@ -26,59 +27,7 @@
 
 using namespace vantorel;
 
-namespace {
-
-QString Q(const std::string& s) { return QString::fromStdString(s); }
-
-// Whether each widget of a window shows what its field holds; the
-// differences, by name.
-QStringList Disagreements(const QWidget& window, const ControlRegistry& registry, const std::string& name) {
-    const gui::Twips twips = gui::Twips::forScreen(window.screen());
-    QStringList wrong;
-    for (const ControlRef& ref : registry.all()) {
-        if (ref.window != name || !ref.control || ref.control == ref.form) continue;
-        const QWidget* w = window.findChild<QWidget*>(Q(ref.name));
-        const QString n = Q(ref.name);
-        if (!w) {
-            wrong << n + ": no widget";
-            continue;
-        }
-        const Control& f = *ref.control;
-        if (w->isHidden() == f.visible()) wrong << n + ": visible";
-        if (w->isEnabled() != f.enabled()) wrong << n + ": enabled";
-        if (ref.kind() != ValueKind::ScrollBar && w->geometry() != twips.rect(f)) wrong << n + ": place";
-        switch (ref.kind()) {
-        case ValueKind::Label:
-            if (qobject_cast<const QLabel*>(w)->text() != Q(std::get<Label*>(ref.target)->caption()))
-                wrong << n + ": caption";
-            break;
-        case ValueKind::Text:
-            if (qobject_cast<const QLineEdit*>(w)->text() != Q(std::get<Text*>(ref.target)->text()))
-                wrong << n + ": text";
-            break;
-        case ValueKind::Flag:
-            if (qobject_cast<const QCheckBox*>(w)->isChecked() != (std::get<Flag*>(ref.target)->value() != 0))
-                wrong << n + ": value";
-            break;
-        case ValueKind::List: {
-            const auto* q = qobject_cast<const QComboBox*>(w);
-            const List& list = *std::get<List*>(ref.target);
-            if (q->count() != list.count() || q->currentIndex() != list.index()) wrong << n + ": rows";
-            if (q->placeholderText() != Q(list.hint())) wrong << n + ": hint";
-            break;
-        }
-        case ValueKind::Button:
-            if (qobject_cast<const QPushButton*>(w)->text() != Q(std::get<Button*>(ref.target)->caption()))
-                wrong << n + ": caption";
-            break;
-        default:
-            break;
-        }
-    }
-    return wrong;
-}
-
-} // namespace
+using test::Disagreements;
 
 class SettingsWindowTest final : public QObject {
     Q_OBJECT

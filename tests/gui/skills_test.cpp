@@ -3,6 +3,7 @@
 // widgets as a user's would: the main window's button, boxes clicked, rows
 // chosen in the drop-down, text typed, the frame's close.
 
+#include "agreement.h"
 #include "gui/binding.h"
 #include "gui/twips.h"
 #include "mainwindow/layout.h"
@@ -28,80 +29,7 @@
 
 using namespace vantorel;
 
-namespace {
-
-QString Q(const std::string& s) { return QString::fromStdString(s); }
-
-void ChooseRow(QComboBox* list, int row) {
-    list->showPopup();
-    QAbstractItemView* rows = list->view();
-    rows->setCurrentIndex(rows->model()->index(row, 0));
-    QTest::keyClick(rows, Qt::Key_Return);
-}
-
-// Whether each widget of a skills window shows what its field holds; the
-// differences, by name.
-QStringList Disagreements(const QWidget& window, const ControlRegistry& registry, const QString& name,
-                          const gui::Twips& twips) {
-    QStringList wrong;
-    for (const ControlRef& ref : registry.all()) {
-        if (Q(ref.window) != name || ref.control == nullptr || ref.kind() == ValueKind::Window) continue;
-        const QString control = Q(ref.name);
-        const QWidget* w = window.findChild<QWidget*>(control);
-        if (!w) {
-            wrong << control + ": no widget";
-            continue;
-        }
-        const Control& f = *ref.control;
-        if (w->isHidden() == f.visible()) wrong << control + ": visible";
-        if (w->isEnabled() != f.enabled()) wrong << control + ": enabled";
-        if (w->geometry() != twips.rect(f)) wrong << control + ": place";
-        switch (ref.kind()) {
-        case ValueKind::Flag: {
-            const Flag& flag = *std::get<Flag*>(ref.target);
-            const auto* q = qobject_cast<const QCheckBox*>(w);
-            if (q->isChecked() != (flag.value() != 0)) wrong << control + ": value";
-            if (q->text() != Q(flag.caption()) || q->toolTip() != Q(flag.tooltip())) wrong << control + ": texts";
-            break;
-        }
-        case ValueKind::List: {
-            const List& list = *std::get<List*>(ref.target);
-            const auto* q = qobject_cast<const QComboBox*>(w);
-            bool sameRows = q->count() == list.count();
-            for (int i = 0; sameRows && i < list.count(); ++i)
-                sameRows = q->itemText(i) == Q(list.row(i));
-            if (!sameRows || q->currentIndex() != list.index()) wrong << control + ": rows";
-            if (q->toolTip() != Q(list.tooltip())) wrong << control + ": tooltip";
-            break;
-        }
-        case ValueKind::Text: {
-            const Text& text = *std::get<Text*>(ref.target);
-            const auto* q = qobject_cast<const QLineEdit*>(w);
-            if (q->text() != Q(text.text())) wrong << control + ": text";
-            if (q->palette().color(QPalette::Base) != gui::ToQColor(text.back())) wrong << control + ": back";
-            break;
-        }
-        case ValueKind::Label: {
-            const Label& label = *std::get<Label*>(ref.target);
-            const auto* q = qobject_cast<const QLabel*>(w);
-            if (q->text() != Q(label.caption())) wrong << control + ": caption";
-            if (q->palette().color(QPalette::WindowText) != gui::ToQColor(label.fore())) wrong << control + ": fore";
-            break;
-        }
-        case ValueKind::Button: {
-            const Button& button = *std::get<Button*>(ref.target);
-            const auto* q = qobject_cast<const QPushButton*>(w);
-            if (q->text() != Q(button.caption()) || q->toolTip() != Q(button.tooltip())) wrong << control + ": texts";
-            break;
-        }
-        default:
-            break;
-        }
-    }
-    return wrong;
-}
-
-} // namespace
+using test::ChooseRow;
 
 class SkillsWindowTest final : public QObject {
     Q_OBJECT
@@ -121,8 +49,7 @@ class SkillsWindowTest final : public QObject {
     gui::Twips twips() const { return gui::Twips::forScreen(m_windows->mainWindow().screen()); }
     void agrees(Vessel v) const {
         const ControlRegistry registry(*m_c);
-        const QStringList wrong = Disagreements(
-            *window(v), registry, v == 1 ? QStringLiteral("AlphaSkills") : QStringLiteral("OmegaSkills"), twips());
+        const QStringList wrong = test::Disagreements(*window(v), registry, v == 1 ? "AlphaSkills" : "OmegaSkills");
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(QStringLiteral("; "))));
     }
 

@@ -3,6 +3,7 @@
 #include "engine/records.h"
 #include "graph/view/graphplot.h"
 #include "gui/binding.h"
+#include "gui/focus.h"
 #include "gui/listbox.h"
 #include "gui/toplevel.h"
 
@@ -51,7 +52,9 @@ GraphWindowView::GraphWindowView(Calculator& c, QWidget* parent)
     hide->setStyleSheet(QStringLiteral("QPushButton { padding: 0px; }"));
     gui::Bind(hide, g.HideKey, m_twips);
 
+    gui::OrderTabsDownColumns(this);
     m_top = new gui::TopLevel(this, g.Form, m_twips);
+    m_top->closeOnEscape();
     const QSize inner = m_top->innerPixels();
     m_plot->setGeometry(0, 0, inner.width(), inner.height());
     setFixedSize(inner);

@@ -1,6 +1,7 @@
 #include "help/view/about.h"
 
 #include "gui/binding.h"
+#include "gui/focus.h"
 #include "gui/toplevel.h"
 #include "help/view/manualtext.h"
 
@@ -46,7 +47,9 @@ AboutView::AboutView(Calculator& c, QWidget* parent)
     button(a.Online, QStringLiteral("About.Online"));
     button(a.OK, QStringLiteral("About.OK"));
 
-    new gui::TopLevel(this, a.Form, m_twips, gui::Following::Owner);
+    gui::OrderTabsDownColumns(this);
+    auto* frame = new gui::TopLevel(this, a.Form, m_twips, gui::Following::Owner);
+    frame->closeOnEscape();
 }
 
 } // namespace vantorel

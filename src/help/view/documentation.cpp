@@ -1,6 +1,7 @@
 #include "help/view/documentation.h"
 
 #include "gui/binding.h"
+#include "gui/focus.h"
 #include "gui/toplevel.h"
 #include "help/help.h"
 #include "help/manual.h"
@@ -44,7 +45,9 @@ DocumentationView::DocumentationView(Calculator& c, QWidget* parent)
     // an outer one.
     setMinimumSize(m_twips.toPixelsX(kDocumentationMinWidth - kFrameWidth),
                    m_twips.toPixelsY(kDocumentationMinHeight - kFrameHeight));
+    gui::OrderTabsDownColumns(this);
     auto* frame = new gui::TopLevel(this, d.Form, m_twips, gui::Following::Owner);
+    frame->closeOnEscape();
     frame->followUserSize([&c] { DocumentationResized(c); });
 }
 

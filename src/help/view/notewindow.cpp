@@ -1,6 +1,7 @@
 #include "help/view/notewindow.h"
 
 #include "gui/binding.h"
+#include "gui/focus.h"
 #include "gui/toplevel.h"
 
 #include <QCheckBox>
@@ -40,7 +41,9 @@ NoteWindowView::NoteWindowView(Calculator& c, QWidget* parent)
     close->setFont(buttons);
     gui::Bind(close, n.Close, m_twips);
 
-    new gui::TopLevel(this, n.Form, m_twips);
+    gui::OrderTabsDownColumns(this);
+    auto* frame = new gui::TopLevel(this, n.Form, m_twips);
+    frame->closeOnEscape();
 }
 
 } // namespace vantorel

@@ -2,6 +2,7 @@
 
 #include "engine/records.h"
 #include "gui/binding.h"
+#include "gui/focus.h"
 #include "gui/listbox.h"
 #include "mainwindow/layout.h"
 #include "mainwindow/view/shipview.h"
@@ -53,6 +54,8 @@ MainWindow::MainWindow(Calculator& c, QWidget* parent)
     auto* vBar = new QScrollBar(Qt::Vertical, client);
     vBar->setObjectName(Name("VScroll1"));
     gui::Bind(vBar, m.VScroll1, m_twips);
+    gui::OrderTabsDownColumns(this);
+    gui::ScrollFocusIntoView(page, {hBar, &m.HScroll1, vBar, &m.VScroll1}, m_twips);
 
     if (QScreen* screen = QGuiApplication::primaryScreen())
         connect(screen, &QScreen::availableGeometryChanged, this, &MainWindow::takeWorkArea);

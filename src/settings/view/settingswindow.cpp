@@ -1,6 +1,7 @@
 #include "settings/view/settingswindow.h"
 
 #include "gui/binding.h"
+#include "gui/focus.h"
 #include "gui/listbox.h"
 #include "gui/toplevel.h"
 #include "settings/window.h"
@@ -75,7 +76,9 @@ SettingsWindowView::SettingsWindowView(Calculator& c, Vessel v, QWidget* parent)
     const char* name = v == 1 ? "Alpha" : "Omega";
     setObjectName(QString::fromLatin1(name));
     build(s, name);
-    new gui::TopLevel(this, s.Form, m_twips);
+    gui::OrderTabsDownColumns(this);
+    auto* frame = new gui::TopLevel(this, s.Form, m_twips);
+    frame->closeOnEscape();
 }
 
 void SettingsWindowView::build(VesselSettings& s, const char* name) {
@@ -87,6 +90,7 @@ void SettingsWindowView::build(VesselSettings& s, const char* name) {
     page->setObjectName(QString::fromStdString(prefix + "Contents"));
     gui::BindPage(page, s.Contents, m_twips);
     addSectionLines(s, page);
+    QScrollBar* bar = nullptr;
 
     for (const ControlRef& ref : fields) {
         if (ref.name.size() <= prefix.size()) continue; // the window itself
@@ -131,6 +135,7 @@ void SettingsWindowView::build(VesselSettings& s, const char* name) {
             auto* w = new QScrollBar(Qt::Vertical, this);
             gui::Bind(w, *std::get<ScrollBar*>(ref.target), m_twips);
             made = w;
+            bar = w;
             break;
         }
         default:
@@ -138,6 +143,7 @@ void SettingsWindowView::build(VesselSettings& s, const char* name) {
         }
         if (made) made->setObjectName(objectName);
     }
+    gui::ScrollFocusIntoView(page, {nullptr, nullptr, bar, &s.VScroll1}, m_twips);
 }
 
 // A thin line above each section after the first, across the page. The

@@ -2,6 +2,7 @@
 
 #include "gui/binding.h"
 #include "gui/checkbox.h"
+#include "gui/focus.h"
 #include "gui/listbox.h"
 #include "gui/toplevel.h"
 
@@ -50,8 +51,6 @@ SkillsWindow::SkillsWindow(Calculator& c, Vessel v, QWidget* parent)
         gui::Bind(w, field, m_twips);
     };
 
-    // In the order a user tabs through them: down the left column, then the
-    // right, then the buttons.
     check(k.BeamSkillActivated, "BeamSkillActivated");
     list(k.BeamSkillLevel, "BeamSkillLevel");
     check(k.BeamOverloadActivated, "BeamOverloadActivated");
@@ -82,8 +81,10 @@ SkillsWindow::SkillsWindow(Calculator& c, Vessel v, QWidget* parent)
     button(k.Help, "Help");
     button(k.Close, "Close");
 
+    gui::OrderTabsDownColumns(this);
     // Last: the window shows once its controls stand in their places.
-    new gui::TopLevel(this, k.Form, m_twips);
+    auto* frame = new gui::TopLevel(this, k.Form, m_twips);
+    frame->closeOnEscape();
 }
 
 } // namespace vantorel
