@@ -25,6 +25,17 @@ inline constexpr Colour Black = 0x000000;
 
 // State that every control has: enabled, visible, colours and a place on its
 // window (twips; 0 where the window's layout table decides).
+// A rectangle in twips: a control's place on its window, or a window's outer
+// measures on the screen.
+struct TwipsRect {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    int right() const { return left + width; }
+    int bottom() const { return top + height; }
+};
+
 class Control {
   public:
     bool enabled() const { return m_enabled; }
@@ -35,6 +46,7 @@ class Control {
     int top() const { return m_top; }
     int width() const { return m_width; }
     int height() const { return m_height; }
+    TwipsRect rect() const { return {m_left, m_top, m_width, m_height}; }
 
     void setEnabled(bool on) { update(m_enabled, on); }
     void setVisible(bool on) { update(m_visible, on); }
@@ -44,6 +56,12 @@ class Control {
     void setTop(int twips) { update(m_top, twips); }
     void setWidth(int twips) { update(m_width, twips); }
     void setHeight(int twips) { update(m_height, twips); }
+    void setRect(const TwipsRect& r) {
+        setLeft(r.left);
+        setTop(r.top);
+        setWidth(r.width);
+        setHeight(r.height);
+    }
 
     // The handler runs when the control's value is assigned (see subclasses).
     void setHandler(std::function<void()> handler) { m_handler = std::move(handler); }

@@ -10,7 +10,7 @@ namespace vantorel {
 
 namespace {
 
-WindowRect RectOf(const Window& w) { return WindowRect{w.left(), w.top(), w.width(), w.height(), w.visible()}; }
+ShownWindow RectOf(const Window& w) { return ShownWindow{w.left(), w.top(), w.width(), w.height(), w.visible()}; }
 
 } // namespace
 
@@ -37,7 +37,7 @@ GraphPlacement PlaceGraph(const GraphPlacementInput& in) {
     if (ml - gw < wl) take({1, 3, 7});
     if (ml - gw < wl - kOffScreenTolerance) take({5});
 
-    for (const WindowRect* w : {&in.alpha, &in.omega}) {
+    for (const ShownWindow* w : {&in.alpha, &in.omega}) {
         // Only a settings window that shares rows with the graph is in its way.
         if (!w->visible || !(w->top < gb) || !(w->bottom() > gt)) continue;
         const int we = w->right();

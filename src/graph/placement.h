@@ -8,7 +8,7 @@
 namespace vantorel {
 
 // A window's outer rectangle in twips, and whether it is on show.
-struct WindowRect {
+struct ShownWindow {
     int left = 0;
     int top = 0;
     int width = 0;
@@ -23,9 +23,9 @@ struct GraphPlacementInput {
     int workTop = 0;
     int workRight = 0;
     int workBottom = 0;
-    WindowRect main;  // `Form1`
-    WindowRect alpha; // the settings windows `Alpha` and `Omega`
-    WindowRect omega;
+    ShownWindow main;  // `Form1`
+    ShownWindow alpha; // the settings windows `Alpha` and `Omega`
+    ShownWindow omega;
     int graphWidth = 0;
     int graphHeight = 0;
     int graphTop = 0; // the graph's top before it is placed

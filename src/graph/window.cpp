@@ -10,19 +10,12 @@ namespace {
 
 constexpr int kLabelHeight = 255;
 
-void Place(Control& ctl, int left, int top, int width, int height) {
-    ctl.setLeft(left);
-    ctl.setTop(top);
-    ctl.setWidth(width);
-    ctl.setHeight(height);
-}
-
 // White on the window's black.
 Label Caption(std::string text, int left, int top, int width, int height) {
     Label l(std::move(text));
     l.setFore(White);
     l.setBack(Black);
-    Place(l, left, top, width, height);
+    l.setRect({left, top, width, height});
     return l;
 }
 
@@ -60,18 +53,18 @@ void SetUpGraphWindow(GraphWindow& g) {
 
     g.GraphMode = List({"Standard Graph", "Power Level Comparison", "Range Comparison"});
     g.GraphMode.setIndex(0);
-    Place(g.GraphMode, 480, 9875, 2295, 315);
+    g.GraphMode.setRect({480, 9875, 2295, 315});
     g.Help = Button("Help", "Click to display the Graph Window section of the program's documentation.");
-    Place(g.Help, 2880, 9875, 855, 315);
+    g.Help.setRect({2880, 9875, 855, 315});
     g.DisplayOnUpdate = Flag(0, "Display Graph On Update");
     g.DisplayOnUpdate.setTooltip(
         "Check to have the Graph Window automatically brought to the front whenever it is updated.");
     g.DisplayOnUpdate.setFore(White);
     g.DisplayOnUpdate.setBack(Black);
     g.DisplayOnUpdate.setVisible(false);
-    Place(g.DisplayOnUpdate, 7680, 9840, 3135, 315);
+    g.DisplayOnUpdate.setRect({7680, 9840, 3135, 315});
     g.HideKey = Button("Hide");
-    Place(g.HideKey, 9240, 8760, 555, 200);
+    g.HideKey.setRect({9240, 8760, 555, 200});
     g.HideKey.setVisible(false);
 
     g.XAxisLabel = Caption("Firing Arcs", 4635, 9840, 2595, 375);
@@ -79,7 +72,7 @@ void SetUpGraphWindow(GraphWindow& g) {
     g.YAxisLabel.setImage("DPS");
     g.YAxisLabel.setFore(White);
     g.YAxisLabel.setBack(Black);
-    Place(g.YAxisLabel, 120, 4665, 420, 1050);
+    g.YAxisLabel.setRect({120, 4665, 420, 1050});
 
     g.Border[0] = GridLine(kPlotLeft, kPlotTop, kPlotLeft, kPlotZero + 9);
     g.Border[1] = GridLine(kPlotLeft, kPlotZero, kPlotRight, kPlotZero);
@@ -105,12 +98,12 @@ void SetUpGraphWindow(GraphWindow& g) {
         }
     }
 
-    Place(g.Key, 7560, 7020, 2775, 1680);
+    g.Key.setRect({7560, 7020, 2775, 1680});
     g.Key.setBack(Black);
     g.Key.setFore(DarkGrey);
     g.Key.setVisible(false);
     for (int i = 0; i <= 5; ++i) {
-        Place(g.KeyIcon[i], 0, 0, 255, 255);
+        g.KeyIcon[i].setRect({0, 0, 255, 255});
         g.KeyIcon[i].setVisible(false);
         g.KeyLabel[i] = Caption("", 0, 0, 915, kLabelHeight);
         g.KeyLabel[i].setVisible(false);

@@ -33,13 +33,6 @@ int ScreenfulOfSection(ManualSection section) {
     return std::min(ScreenfulBelow(heading, start.box.width, start.box.height), SectionEndAt(heading));
 }
 
-void Put(Control& control, const TwipsRect& place) {
-    control.setLeft(place.left);
-    control.setTop(place.top);
-    control.setWidth(place.width);
-    control.setHeight(place.height);
-}
-
 } // namespace
 
 int HelpPosition(ManualSection section) {
@@ -81,8 +74,8 @@ void DocumentationResized(Calculator& c) {
     const DocumentationLayout l = LayOutDocumentation(d.Form.width(), d.Form.height());
     d.Form.setWidth(l.width);
     d.Form.setHeight(l.height);
-    Put(d.ReadmeBox, l.box);
-    Put(d.OK, l.ok);
+    d.ReadmeBox.setRect(l.box);
+    d.OK.setRect(l.ok);
 }
 
 } // namespace vantorel

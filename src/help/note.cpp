@@ -4,16 +4,7 @@
 
 namespace vantorel {
 
-namespace {
-
-void Place(Control& ctl, int left, int top, int width, int height) {
-    ctl.setLeft(left);
-    ctl.setTop(top);
-    ctl.setWidth(width);
-    ctl.setHeight(height);
-}
-
-} // namespace
+namespace {} // namespace
 
 void SetUpNoteWindow(NoteWindow& n) {
     n.Form = Window("");
@@ -24,15 +15,15 @@ void SetUpNoteWindow(NoteWindow& n) {
     n.InfoText = Label("");
     n.InfoText.setFore(White);
     n.InfoText.setBack(Black);
-    Place(n.InfoText, 240, 240, 5535, 3375);
+    n.InfoText.setRect({240, 240, 5535, 3375});
     n.WarningCheck = Flag(0, "Don't Show This Warning Again");
     n.WarningCheck.setFore(White);
     n.WarningCheck.setBack(Black);
-    Place(n.WarningCheck, 1200, 3720, 3735, 375);
+    n.WarningCheck.setRect({1200, 3720, 3735, 375});
     n.Readme = Button("View Documentation");
-    Place(n.Readme, 1200, 4200, 1695, 375);
+    n.Readme.setRect({1200, 4200, 1695, 375});
     n.Close = Button("Close", "It's a \"Close\" button, what do you think it does?");
-    Place(n.Close, 3120, 4200, 1695, 375);
+    n.Close.setRect({3120, 4200, 1695, 375});
     n.CallerCode = 0;
 }
 

@@ -25,13 +25,6 @@ struct Place {
     int top = 0;
 };
 
-struct TwipsRect {
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
-};
-
 // The window whose help button was pressed, outer measures.
 struct CallerWindow {
     HelpCaller caller = HelpCaller::MainWindow;

@@ -9,13 +9,6 @@ namespace {
 
 constexpr Colour kFace = 0xF0F0F0;
 
-void Put(Control& control, int left, int top, int width, int height) {
-    control.setLeft(left);
-    control.setTop(top);
-    control.setWidth(width);
-    control.setHeight(height);
-}
-
 // A caption in white on the black of About.
 void WhiteOnBlack(Label& label) {
     label.setFore(White);
@@ -29,9 +22,9 @@ void SetUpDocumentationWindow(DocumentationWindow& d) {
     d.Form.setBack(kFace);
     d.Form.setWidth(kDocumentationWidth);
     d.Form.setHeight(kDocumentationHeight);
-    Put(d.ReadmeBox, 120, 120, 9495, 6855);
+    d.ReadmeBox.setRect({120, 120, 9495, 6855});
     d.OK = Button("OK");
-    Put(d.OK, 3840, 7080, 1815, 495);
+    d.OK.setRect({3840, 7080, 1815, 495});
     d.ReadmeCaret = 0;
 }
 
@@ -41,18 +34,18 @@ void SetUpAboutWindow(AboutWindow& a) {
     a.Form.setWidth(kAboutWidth);
     a.Form.setHeight(kAboutHeight);
     a.Aboutlabel2 = Label("Vantorel v 4.0");
-    Put(a.Aboutlabel2, 0, 240, 5895, 255);
+    a.Aboutlabel2.setRect({0, 240, 5895, 255});
     WhiteOnBlack(a.Aboutlabel2);
     a.Aboutlabel0 = Label(std::string(AboutAuthorLine()));
-    Put(a.Aboutlabel0, 240, 720, 5295, 255);
+    a.Aboutlabel0.setRect({240, 720, 5295, 255});
     WhiteOnBlack(a.Aboutlabel0);
-    Put(a.License, 240, 1200, 5295, 2655);
+    a.License.setRect({240, 1200, 5295, 2655});
     a.Readme = Button("View Documentation", "View the program's documentation.");
-    Put(a.Readme, 240, 4080, 1695, 375);
+    a.Readme.setRect({240, 4080, 1695, 375});
     a.Online = Button("View Forum Post", "View the program's forum post in the game's forums.");
-    Put(a.Online, 2040, 4080, 1695, 375);
+    a.Online.setRect({2040, 4080, 1695, 375});
     a.OK = Button("OK", "OK");
-    Put(a.OK, 3840, 4080, 1695, 375);
+    a.OK.setRect({3840, 4080, 1695, 375});
 }
 
 void SetUpSplashWindow(SplashWindow& s) {
@@ -67,7 +60,7 @@ void SetUpSplashWindow(SplashWindow& s) {
         Picture& picture = s.Splash[i];
         picture.setImage(scenes[i]);
         picture.setBack(Black);
-        Put(picture, 0, 0, kSplashWidth, kSplashHeight);
+        picture.setRect({0, 0, kSplashWidth, kSplashHeight});
         picture.setVisible(false);
     }
 }

@@ -46,13 +46,6 @@ const char* const kBoxCaption[14] = {"Forward 45", "Forward 90",   "Forward 110"
                                      "Full 360",   "Front Pocket", "Broadside",   "Rear Pocket", "Rear 110",
                                      "Rear 180",   "Rear 250",     "Front Burst", "Rear Burst"};
 
-void Place(Control& ctl, int left, int top, int width, int height) {
-    ctl.setLeft(left);
-    ctl.setTop(top);
-    ctl.setWidth(width);
-    ctl.setHeight(height);
-}
-
 } // namespace
 
 void SetUpMainWindow(MainSelection& m) {
@@ -60,7 +53,7 @@ void SetUpMainWindow(MainSelection& m) {
     m.Form1.setWidth(9950);
     m.Cline = Line(7020, 3675, 7020, 7890);
     m.Form1.setHeight(9765);
-    Place(m.Contents, 0, 0, 9825, 9360);
+    m.Contents.setRect({0, 0, 9825, 9360});
     m.Contents.setBack(Black);
 
     const std::string weaponsTip = "Select your starship's weapons.";
@@ -137,7 +130,7 @@ void SetUpMainWindow(MainSelection& m) {
                             "arcs.  Uncheck to allow the drawing of all firing arcs.");
     m.Simplified.setFore(White);
     m.Simplified.setBack(Black);
-    Place(m.Simplified, 5640, 8160, 2775, 495);
+    m.Simplified.setRect({5640, 8160, 2775, 495});
 
     m.ForwardWeaponlabel = Label("Forward Weapons");
     m.CForwardWeaponlabel = Label("Forward Weapons");
@@ -155,26 +148,26 @@ void SetUpMainWindow(MainSelection& m) {
     m.Compare = Button("Compare  >>");
     m.HideCompare = Button("<<  Hide");
     m.HideCompare.setVisible(false);
-    Place(m.GraphResults, 4920, 8880, 1335, 375);
-    Place(m.Help, 6360, 8880, 1335, 375);
-    Place(m.ShowAbout, 7800, 8880, 1335, 375);
-    Place(m.Compare, 8400, 120, 1335, 375);
-    Place(m.HideCompare, 9720, 120, 1335, 375);
+    m.GraphResults.setRect({4920, 8880, 1335, 375});
+    m.Help.setRect({6360, 8880, 1335, 375});
+    m.ShowAbout.setRect({7800, 8880, 1335, 375});
+    m.Compare.setRect({8400, 120, 1335, 375});
+    m.HideCompare.setRect({9720, 120, 1335, 375});
 
     m.Primarylabel = Label("Alpha");
     m.Primarylabel.setFore(0x0000FF);
     m.Primarylabel.setVisible(false);
-    Place(m.Primarylabel, 120, 120, 1095, 375);
+    m.Primarylabel.setRect({120, 120, 1095, 375});
     m.Secondarylabel = Label("Omega");
     m.Secondarylabel.setFore(0x00FFFF);
-    Place(m.Secondarylabel, 11400, 120, 1215, 375);
+    m.Secondarylabel.setRect({11400, 120, 1215, 375});
     m.Note = Label("");
     m.Note.setFore(0x0000FF);
     m.Note.setVisible(false);
-    Place(m.Note, 2880, 480, 6855, 1215);
+    m.Note.setRect({2880, 480, 6855, 1215});
     m.FiringArcsLabel = Label("Firing Arcs");
     m.FiringArcsLabel.setFore(White);
-    Place(m.FiringArcsLabel, 4320, 2160, 5415, 495);
+    m.FiringArcsLabel.setRect({4320, 2160, 5415, 495});
     for (Label* l : {&m.Primarylabel, &m.Secondarylabel, &m.Note, &m.FiringArcsLabel})
         l->setBack(Black);
 
@@ -183,10 +176,10 @@ void SetUpMainWindow(MainSelection& m) {
         m.CFiringArcLabel[i] = Label(kBoxCaption[i]);
         m.FiringArcDPS[i] = Label("");
         m.CFiringArcDPS[i] = Label("");
-        Place(m.FiringArcLabel[i], 3000, kLabelTop[i], 1335, 240);
-        Place(m.CFiringArcLabel[i], 9720, kLabelTop[i], 1335, 240);
-        Place(m.FiringArcDPS[i], 3000, kBoxTop[i], 1335, 375);
-        Place(m.CFiringArcDPS[i], 9720, kBoxTop[i], 1335, 375);
+        m.FiringArcLabel[i].setRect({3000, kLabelTop[i], 1335, 240});
+        m.CFiringArcLabel[i].setRect({9720, kLabelTop[i], 1335, 240});
+        m.FiringArcDPS[i].setRect({3000, kBoxTop[i], 1335, 375});
+        m.CFiringArcDPS[i].setRect({9720, kBoxTop[i], 1335, 375});
         for (Label* l : {&m.FiringArcLabel[i], &m.CFiringArcLabel[i]}) {
             l->setFore(White);
             l->setBack(Black);
@@ -198,8 +191,8 @@ void SetUpMainWindow(MainSelection& m) {
         m.FiringArc[i].setVisible(false);
         m.CFiringArc[i].setVisible(false);
     }
-    Place(m.AlphaImage, 4320, 2880, 5400, 5400);
-    Place(m.OmegaImage, 4320, 2880, 5400, 5400);
+    m.AlphaImage.setRect({4320, 2880, 5400, 5400});
+    m.OmegaImage.setRect({4320, 2880, 5400, 5400});
     m.Cline.setVisible(false);
     m.HScroll1.setVisible(false);
     m.VScroll1.setVisible(false);

@@ -31,7 +31,7 @@ int LeftOf(const SettingsPlaceInput& in, int width) {
 
 SettingsPlace PlaceSettingsWindow(const SettingsPlaceInput& in) {
     SettingsPlace p;
-    WindowRect& w = p.window;
+    TwipsRect& w = p.window;
     const int bottom = in.work.top + in.work.height;
     if (in.work.height >= kSettingsTallHeight) {
         w.height = kSettingsTallHeight;
@@ -66,7 +66,7 @@ SettingsPlace PlaceSettingsWindow(const SettingsPlaceInput& in) {
     return p;
 }
 
-NotePlace PlaceNote(const WindowRect& caller, int noteWidth) {
+NotePlace PlaceNote(const TwipsRect& caller, int noteWidth) {
     return {(caller.left + caller.width + caller.left) / 2 - noteWidth / 2, caller.top + kNoteBelowCaller};
 }
 

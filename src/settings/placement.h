@@ -18,19 +18,12 @@ inline constexpr int kSettingsBarWidth = 255;
 // down and aside, so that both stay in sight.
 inline constexpr int kSettingsCascade = 300;
 
-struct WindowRect {
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
-};
-
 // Alpha's window prefers the main window's left, Omega's its right.
 enum class Beside { Left, Right };
 
 struct SettingsPlaceInput {
     WorkArea work;
-    WindowRect main; // the main window, outer size
+    TwipsRect main; // the main window, outer size
     Beside prefers = Beside::Left;
     int contentsHeight = 0;  // the window's page
     bool otherShown = false; // the other vessel's settings window
@@ -41,7 +34,7 @@ struct SettingsPlaceInput {
 };
 
 struct SettingsPlace {
-    WindowRect window;
+    TwipsRect window;
     BarPlace bar; // VScroll1, on the window's right edge
 };
 
@@ -53,6 +46,6 @@ struct NotePlace {
     int left = 0;
     int top = 0;
 };
-NotePlace PlaceNote(const WindowRect& caller, int noteWidth);
+NotePlace PlaceNote(const TwipsRect& caller, int noteWidth);
 
 } // namespace vantorel

@@ -49,50 +49,43 @@ constexpr int kPowerTop = 4350;
 constexpr int kWeaponTop = 6840;
 constexpr int kFootTop = 14520;
 
-void Place(Control& ctl, int left, int top, int width, int height) {
-    ctl.setLeft(left);
-    ctl.setTop(top);
-    ctl.setWidth(width);
-    ctl.setHeight(height);
-}
-
 int ColumnLeft(int column) { return column == 0 ? kLeftColumn : kRightColumn; }
 
 // A caption and its box on row `top` of a column.
 void PlaceRow(Label& caption, Control& box, int column, int top) {
-    Place(caption, ColumnLeft(column), top, kCaptionWidth, kRowHeight);
-    Place(box, ColumnLeft(column) + kCaptionWidth + kBoxGap, top, kBoxWidth, kRowHeight);
+    caption.setRect({ColumnLeft(column), top, kCaptionWidth, kRowHeight});
+    box.setRect({ColumnLeft(column) + kCaptionWidth + kBoxGap, top, kBoxWidth, kRowHeight});
 }
 
 // A control across the whole column.
 void PlaceWide(Control& ctl, int column, int top, int height = kRowHeight) {
-    Place(ctl, ColumnLeft(column), top, kColumnWidth, height);
+    ctl.setRect({ColumnLeft(column), top, kColumnWidth, height});
 }
 
 void PlaceHeading(VesselSettings& s, int section, Label& heading, Flag* check, int top) {
-    Place(heading, kMargin, top, kHeadingWidth, kHeadingHeight);
-    if (check) Place(*check, kSectionCheckLeft, top + 30, kSectionCheckWidth, kRowHeight);
-    Place(s.CopySettings[section], kCopyLeft, top + 15, kCopyWidth, kButtonHeight);
-    Place(s.Help[section], kHelpLeft, top + 15, kHelpWidth, kButtonHeight);
+    heading.setRect({kMargin, top, kHeadingWidth, kHeadingHeight});
+    if (check) check->setRect({kSectionCheckLeft, top + 30, kSectionCheckWidth, kRowHeight});
+    s.CopySettings[section].setRect({kCopyLeft, top + 15, kCopyWidth, kButtonHeight});
+    s.Help[section].setRect({kHelpLeft, top + 15, kHelpWidth, kButtonHeight});
 }
 
 void LayOut(VesselSettings& s, bool omega) {
-    Place(s.Contents, 0, 0, kPageWidth, omega ? kOmegaPageHeight : kAlphaPageHeight);
-    Place(s.VScroll1, 9600, 0, kSettingsBarWidth, 0);
+    s.Contents.setRect({0, 0, kPageWidth, omega ? kOmegaPageHeight : kAlphaPageHeight});
+    s.VScroll1.setRect({9600, 0, kSettingsBarWidth, 0});
 
     // Character.
     // Alpha's "Unrestricted" and Omega's "Same As Alpha" share the place;
     // each window shows its own.
     PlaceHeading(s, 1, s.CharacterSettingsLabel, &s.CharacterSettings, kCharacterTop);
-    Place(s.SameAsAlpha, kSectionCheckLeft, kCharacterTop + 30, kSectionCheckWidth, kRowHeight);
+    s.SameAsAlpha.setRect({kSectionCheckLeft, kCharacterTop + 30, kSectionCheckWidth, kRowHeight});
     constexpr int kPageRight = kRightColumn + kColumnWidth;
     const int third = (kPageRight - kMargin - 4 * kBoxGap) / 3;
     Label* captions[3] = {&s.FactionLabel, &s.RankLabel, &s.ClassLabel};
     List* lists[3] = {&s.Faction, &s.Rank, &s.Class};
     for (int i = 0; i < 3; ++i) {
         const int left = kMargin + i * (third + 2 * kBoxGap);
-        Place(*captions[i], left, kCharacterTop + 465, third, kCaptionHeight);
-        Place(*lists[i], left, kCharacterTop + 735, third, kRowHeight);
+        captions[i]->setRect({left, kCharacterTop + 465, third, kCaptionHeight});
+        lists[i]->setRect({left, kCharacterTop + 735, third, kRowHeight});
     }
 
     // Combat: the captain's skills and equipment on the left, the target on
@@ -120,7 +113,7 @@ void LayOut(VesselSettings& s, bool omega) {
     PlaceWide(s.PowerCaptain, 1, top);
     PlaceWide(s.WarpCore, 1, top + kPitch);
     PlaceWide(s.PowerBonusLabel, 1, top + 2 * kPitch);
-    Place(s.PowerBonus, kRightColumn + kCaptionWidth + kBoxGap, top + 3 * kPitch, kBoxWidth, kRowHeight);
+    s.PowerBonus.setRect({kRightColumn + kCaptionWidth + kBoxGap, top + 3 * kPitch, kBoxWidth, kRowHeight});
 
     // Weapons: mark and mods, the energy and projectile skills side by side,
     // the consoles, and the damage the game's tooltips would show.
@@ -132,7 +125,7 @@ void LayOut(VesselSettings& s, bool omega) {
     PlaceWide(s.WeaponMark, 0, top);
     const int modWidth = (kColumnWidth - 2 * kBoxGap) / 3;
     for (int i = 1; i <= 3; ++i)
-        Place(s.WeaponMod[i], kRightColumn + (i - 1) * (modWidth + kBoxGap), top, modWidth, kRowHeight);
+        s.WeaponMod[i].setRect({kRightColumn + (i - 1) * (modWidth + kBoxGap), top, modWidth, kRowHeight});
     top += 465;
     PlaceWide(s.SkillLabel[1], 0, top);
     PlaceWide(s.SkillLabel[2], 1, top);
@@ -145,15 +138,15 @@ void LayOut(VesselSettings& s, bool omega) {
     // The type lists stand where a caption would, beside their skill box.
     PlaceRow(s.WeaponSkillLabel[4], s.WeaponSkill[4], 0, top);
     PlaceRow(s.WeaponSkillLabel[8], s.WeaponSkill[8], 1, top);
-    Place(s.WeaponType[1], kLeftColumn, top, kCaptionWidth, kRowHeight);
-    Place(s.WeaponType[2], kRightColumn, top, kCaptionWidth, kRowHeight);
+    s.WeaponType[1].setRect({kLeftColumn, top, kCaptionWidth, kRowHeight});
+    s.WeaponType[2].setRect({kRightColumn, top, kCaptionWidth, kRowHeight});
     top += 390;
     PlaceWide(s.WeaponAccolade[1], 0, top);
     PlaceWide(s.WeaponAccolade[2], 1, top);
     top += 420;
     PlaceWide(s.TacticalConsoleLabel, 0, top);
-    Place(s.MatchConsole, kRightColumn, top, kCaptionWidth, kRowHeight);
-    Place(s.MatchConsoleLimit, kRightColumn + kCaptionWidth + kBoxGap, top, kBoxWidth, kRowHeight);
+    s.MatchConsole.setRect({kRightColumn, top, kCaptionWidth, kRowHeight});
+    s.MatchConsoleLimit.setRect({kRightColumn + kCaptionWidth + kBoxGap, top, kBoxWidth, kRowHeight});
     top += kPitch;
     constexpr int kEquipWidth = 300;
     constexpr int kConsoleLeft = kMargin + kEquipWidth + 60;
@@ -164,10 +157,10 @@ void LayOut(VesselSettings& s, bool omega) {
     constexpr int kRarityWidth = kRightColumn + kColumnWidth - kRarityLeft;
     for (int i = 1; i <= 4; ++i) {
         const int rowTop = top + (i - 1) * kPitch;
-        Place(s.TacticalConsoleEquipped[i], kMargin, rowTop, kEquipWidth, kRowHeight);
-        Place(s.TacticalConsole[i], kConsoleLeft, rowTop, kConsoleWidth, kRowHeight);
-        Place(s.TacticalConsoleMark[i], kMarkLeft, rowTop, kMarkWidth, kRowHeight);
-        Place(s.TacticalConsoleRarity[i], kRarityLeft, rowTop, kRarityWidth, kRowHeight);
+        s.TacticalConsoleEquipped[i].setRect({kMargin, rowTop, kEquipWidth, kRowHeight});
+        s.TacticalConsole[i].setRect({kConsoleLeft, rowTop, kConsoleWidth, kRowHeight});
+        s.TacticalConsoleMark[i].setRect({kMarkLeft, rowTop, kMarkWidth, kRowHeight});
+        s.TacticalConsoleRarity[i].setRect({kRarityLeft, rowTop, kRarityWidth, kRowHeight});
     }
     top += 4 * kPitch + 90;
     PlaceWide(s.DisplayedDPSLabel[1], 0, top);
@@ -181,8 +174,8 @@ void LayOut(VesselSettings& s, bool omega) {
     // The foot.
     constexpr int kFootButton = 1320;
     constexpr int kCloseLeft = kRightColumn + kColumnWidth - kFootButton;
-    Place(s.Close, kCloseLeft, kFootTop, kFootButton, kHeadingHeight);
-    Place(s.Help[0], kCloseLeft - kBoxGap - kFootButton, kFootTop, kFootButton, kHeadingHeight);
+    s.Close.setRect({kCloseLeft, kFootTop, kFootButton, kHeadingHeight});
+    s.Help[0].setRect({kCloseLeft - kBoxGap - kFootButton, kFootTop, kFootButton, kHeadingHeight});
 }
 
 void Caption(Label& l, std::string caption, Shade shade = Shade::Inactive) {

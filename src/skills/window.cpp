@@ -27,13 +27,6 @@ constexpr int kInnerHeight = kButtonsTop + kButtonHeight + kMargin;
 constexpr int kOuterWidth = kInnerWidth + 120;
 constexpr int kOuterHeight = kInnerHeight + 405;
 
-void Place(Control& ctl, int left, int top, int width, int height) {
-    ctl.setLeft(left);
-    ctl.setTop(top);
-    ctl.setWidth(width);
-    ctl.setHeight(height);
-}
-
 int RowTop(int row) { return kMargin + row * kRowStep; }
 
 // A skill's block: its check box across the column, or beside the list that
@@ -41,9 +34,9 @@ int RowTop(int row) { return kMargin + row * kRowStep; }
 void PlaceSkill(Flag& box, List* choice, List& level, int column, int row) {
     const int left = kColumnLeft[column];
     const int top = RowTop(row);
-    Place(box, left, top, choice ? kChoiceLeft - 120 : kColumnWidth, kCheckHeight);
-    if (choice) Place(*choice, left + kChoiceLeft, top - 15, kColumnWidth - kChoiceLeft, kListHeight);
-    Place(level, left, top + kLevelBelow, kColumnWidth, kListHeight);
+    box.setRect({left, top, choice ? kChoiceLeft - 120 : kColumnWidth, kCheckHeight});
+    if (choice) choice->setRect({left + kChoiceLeft, top - 15, kColumnWidth - kChoiceLeft, kListHeight});
+    level.setRect({left, top + kLevelBelow, kColumnWidth, kListHeight});
 }
 
 void LayOut(VesselSkills& k) {
@@ -59,19 +52,20 @@ void LayOut(VesselSkills& k) {
     const int right = kColumnLeft[1];
     const int alphaTop = RowTop(2);
     constexpr int kVersionWidth = 900;
-    Place(k.AttackPatternAlpha, right, alphaTop, kColumnWidth - kVersionWidth - 120, kCheckHeight);
-    Place(k.AttackPatternAlphaLevel, right + kColumnWidth - kVersionWidth, alphaTop - 15, kVersionWidth, kListHeight);
-    Place(k.AttackPatternAlphaDescription, right, alphaTop + kLevelBelow, kColumnWidth, kCheckHeight);
+    k.AttackPatternAlpha.setRect({right, alphaTop, kColumnWidth - kVersionWidth - 120, kCheckHeight});
+    k.AttackPatternAlphaLevel.setRect(
+        {right + kColumnWidth - kVersionWidth, alphaTop - 15, kVersionWidth, kListHeight});
+    k.AttackPatternAlphaDescription.setRect({right, alphaTop + kLevelBelow, kColumnWidth, kCheckHeight});
 
     const int targetsTop = RowTop(3);
     constexpr int kTargetsWidth = 900;
-    Place(k.TargetsLabel, right, targetsTop, kColumnWidth - kTargetsWidth - 120, kCheckHeight);
-    Place(k.Targets, right + kColumnWidth - kTargetsWidth, targetsTop - 15, kTargetsWidth, kListHeight);
-    Place(k.SameAsAlpha, right, RowTop(4), kColumnWidth, kCheckHeight);
+    k.TargetsLabel.setRect({right, targetsTop, kColumnWidth - kTargetsWidth - 120, kCheckHeight});
+    k.Targets.setRect({right + kColumnWidth - kTargetsWidth, targetsTop - 15, kTargetsWidth, kListHeight});
+    k.SameAsAlpha.setRect({right, RowTop(4), kColumnWidth, kCheckHeight});
 
     const int closeLeft = right + kColumnWidth - kButtonWidth;
-    Place(k.Close, closeLeft, kButtonsTop, kButtonWidth, kButtonHeight);
-    Place(k.Help, closeLeft - 120 - kButtonWidth, kButtonsTop, kButtonWidth, kButtonHeight);
+    k.Close.setRect({closeLeft, kButtonsTop, kButtonWidth, kButtonHeight});
+    k.Help.setRect({closeLeft - 120 - kButtonWidth, kButtonsTop, kButtonWidth, kButtonHeight});
 }
 
 std::string Activates(const char* skill) {

@@ -458,19 +458,19 @@ TEST(GraphSeries, LinesOfTwoVessels) {
 constexpr int kGraphWidth = 11115;
 constexpr int kGraphHeight = 10815;
 
-GraphPlacementInput Screen(int workRight, int workBottom, WindowRect main) {
+GraphPlacementInput Screen(int workRight, int workBottom, ShownWindow main) {
     GraphPlacementInput in;
     in.workRight = workRight;
     in.workBottom = workBottom;
     in.main = main;
-    in.alpha = WindowRect{0, 0, 9780, 11000, false};
-    in.omega = WindowRect{0, 0, 9780, 11000, false};
+    in.alpha = ShownWindow{0, 0, 9780, 11000, false};
+    in.omega = ShownWindow{0, 0, 9780, 11000, false};
     in.graphWidth = kGraphWidth;
     in.graphHeight = kGraphHeight;
     return in;
 }
 
-GraphPlacementInput WithSettings(GraphPlacementInput in, WindowRect alpha, WindowRect omega = {0, 0, 0, 0, false}) {
+GraphPlacementInput WithSettings(GraphPlacementInput in, ShownWindow alpha, ShownWindow omega = {0, 0, 0, 0, false}) {
     in.alpha = alpha;
     in.omega = omega;
     return in;

@@ -89,7 +89,7 @@ TEST(NumberBoxes, MirroredCopiesAreValidatedInOmega) {
     }
 }
 
-SettingsPlaceInput PlaceIn(WorkArea work, WindowRect main, Beside side) {
+SettingsPlaceInput PlaceIn(WorkArea work, TwipsRect main, Beside side) {
     SettingsPlaceInput in;
     in.work = work;
     in.main = main;
@@ -153,7 +153,7 @@ TEST(Placement, TheSecondWindowOnTheSameSpotMovesAside) {
 
 TEST(Placement, NoteCentredOnItsCaller) {
     // clang-format off
-    struct Case { WindowRect caller; int left, top; } cases[] = {
+    struct Case { TwipsRect caller; int left, top; } cases[] = {
         {{1000, 500, 9780, 15330}, 1000 + 4890 - 3052, 5780},
         {{0, 0, 9930, 11520}, 4965 - 3052, 5280},
         {{-9930, 0, 9930, 0}, -9930 + 4965 - 3052, 5280},
