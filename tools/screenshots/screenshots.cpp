@@ -255,6 +255,8 @@ int main(int argc, char* argv[]) {
             scale = std::atof(argv[++i]);
         else if (arg == "--all")
             all = true;
+        else if (arg.empty() || arg[0] == '-')
+            scale = 0.0; // an unknown option: show the usage, write nothing
         else
             folder = QString::fromLocal8Bit(argv[i]);
     }
