@@ -285,14 +285,14 @@ void CheckRefusal(const Run& run, const std::vector<std::string_view>& lines) {
         Fault("the message of a refused script is not one line", run.err);
     if (run.err.rfind("line ", 0) != 0) Fault("the message of a refused script names no line", run.err);
     const std::size_t colon = run.err.find(": ");
+    if (colon == std::string::npos) Fault("the message of a refused script names no line", run.err);
     std::size_t number = 0;
     for (std::size_t i = 5; i < colon; ++i) {
         const char ch = run.err[i];
         if (ch < '0' || ch > '9' || number > lines.size()) Fault("the line number is malformed", run.err);
         number = number * 10 + static_cast<std::size_t>(ch - '0');
     }
-    if (colon == std::string::npos || number < 1 || number > lines.size())
-        Fault("the message names a line the script does not have", run.err);
+    if (number < 1 || number > lines.size()) Fault("the message names a line the script does not have", run.err);
     if (!IsAction(lines[number - 1])) Fault("the message names a blank line or a comment", run.err);
 }
 
