@@ -11,6 +11,8 @@ packages=(
   qt6-base-dev qt6-base-dev-tools libgl-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   libgif-dev
+  # The fuzz targets: clang with libFuzzer and the sanitizers' runtimes.
+  clang libclang-rt-dev
   xvfb xauth fonts-dejavu-core
   # The Debian package: dpkg-shlibdeps finds the libraries it depends on.
   dpkg-dev

@@ -2,7 +2,8 @@
 # Sets up and builds Vantorel, runs every test (among them one of a copy
 # installed into a prefix of its own), builds the Debian package and checks
 # what it holds, then builds the tests again with AddressSanitizer and
-# UndefinedBehaviorSanitizer and runs them there, and last builds the Release
+# UndefinedBehaviorSanitizer and runs them there, fuzzes the script reader and
+# the reading of typed numbers for a short while, and last builds the Release
 # configuration that the benchmarks use, so that every build type the README
 # names is built on every run.
 set -euo pipefail
@@ -32,6 +33,20 @@ ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
   ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -E '^gui_'
 ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 \
   ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -R '^gui_'
+
+echo "== Fuzzing"
+# clang's libFuzzer in a configuration of its own, without Qt: each target
+# runs half a minute from its seeds with a fixed seed, both at once. A finding
+# fails the run.
+fuzz_start=$SECONDS
+cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ -DVANTOREL_FUZZ=ON \
+  > build-fuzz.log 2>&1 || { cat build-fuzz.log; exit 1; }
+rm -f build-fuzz.log
+cmake --build build-fuzz -j "$jobs"
+# Each run starts from the seeds alone, so that its seed decides what it tries.
+rm -rf build-fuzz/fuzz-corpus build-fuzz/fuzz-findings
+tools/fuzz.sh build-fuzz 30 1
+echo "Fuzzing took $((SECONDS - fuzz_start)) s"
 
 echo "== Release build (benchmarks)"
 cmake -S . -B build-release -G Ninja -DCMAKE_BUILD_TYPE=Release > build-release.log 2>&1 || {

@@ -159,6 +159,32 @@ Digits IntegerDigits(int x) {
     return d;
 }
 
+// Digits with at most one decimal point, such as "12.5", ".5" or "5.", as
+// the nearest double. A value too small for any double is 0; one too large
+// is nothing: no box could hold it, and 0 in its place would pass every
+// range check.
+std::optional<double> FixedValue(std::string_view digits) {
+    const char* first = digits.data();
+    const char* last = first + digits.size();
+    std::string padded; // from_chars wants a digit before a leading point
+    if (first < last && *first == '.') {
+        padded = "0";
+        padded.append(first, last);
+        first = padded.data();
+        last = padded.data() + padded.size();
+    }
+    double value = 0.0;
+    const auto [ptr, ec] = std::from_chars(first, last, value, std::chars_format::fixed);
+    if (ec == std::errc::result_out_of_range) {
+        // Only a whole part other than 0 makes a number too large.
+        const char* whole = std::find_if(first, last, [](char ch) { return ch != '0'; });
+        if (whole != last && *whole != '.') return std::nullopt;
+        return 0.0;
+    }
+    if (ec != std::errc() || ptr != last) return std::nullopt;
+    return value;
+}
+
 } // namespace
 
 float Round(float x, int n) {
@@ -198,7 +224,7 @@ std::optional<double> NumericValue(std::string_view text) {
     // "inf" and hexadecimal forms, which a typed value may not be.
     bool digits = false;
     std::size_t point = std::string_view::npos;
-    long long whole = 0;
+    long long whole = 0; // the value of up to 15 digits without a point
     for (std::size_t p = i; p < end; ++p) {
         const char ch = text[p];
         if (ch >= '0' && ch <= '9') {
@@ -212,22 +238,10 @@ std::optional<double> NumericValue(std::string_view text) {
     }
     if (!digits) return std::nullopt;
     const bool plainWhole = point == std::string_view::npos && end - i <= 15;
-    double value = 0.0;
-    if (plainWhole) {
-        value = static_cast<double>(whole);
-    } else {
-        const char* first = text.data() + i;
-        const char* last = text.data() + end;
-        std::string padded; // from_chars wants a digit before a leading point
-        if (*first == '.') {
-            padded = "0";
-            padded.append(first, last);
-            first = padded.data();
-            last = padded.data() + padded.size();
-        }
-        std::from_chars(first, last, value, std::chars_format::fixed);
-    }
-    return negative ? -value : value;
+    if (plainWhole) return negative ? -static_cast<double>(whole) : static_cast<double>(whole);
+    const std::optional<double> value = FixedValue(text.substr(i, end - i));
+    if (!value) return std::nullopt;
+    return negative ? -*value : *value;
 }
 
 bool IsNumeric(std::string_view text) { return NumericValue(text).has_value(); }
@@ -254,36 +268,33 @@ double LeadingValue(std::string_view text) {
         ++i;
     }
     // Blanks between the digits are skipped, as the reading of a typed
-    // number always did; the first other character ends the number.
-    char digits[64];
-    std::size_t n = 0;
+    // number always did; the first other character ends the number. A power
+    // row's number fits the string's own buffer, so nothing is allocated.
+    std::string digits;
     bool point = false;
     bool any = false;
-    for (; i < text.size() && n + 1 < sizeof digits; ++i) {
+    for (; i < text.size(); ++i) {
         const char ch = text[i];
         if (ch >= '0' && ch <= '9') {
-            digits[n++] = ch;
+            digits.push_back(ch);
             any = true;
         } else if (ch == '.' && !point) {
             point = true;
-            digits[n++] = ch;
+            digits.push_back(ch);
         } else if (ch != ' ') {
             break;
         }
     }
     if (!any) return 0.0;
     double value = 0.0;
-    if (!point && n <= 15) {
+    if (!point && digits.size() <= 15) {
         long long whole = 0;
-        for (std::size_t k = 0; k < n; ++k)
-            whole = whole * 10 + (digits[k] - '0');
+        for (const char ch : digits)
+            whole = whole * 10 + (ch - '0');
         value = static_cast<double>(whole);
-    } else if (digits[0] == '.') {
-        char padded[65] = {'0'};
-        std::copy(digits, digits + n, padded + 1);
-        std::from_chars(padded, padded + n + 1, value, std::chars_format::fixed);
     } else {
-        std::from_chars(digits, digits + n, value, std::chars_format::fixed);
+        // A number beyond any double reads as text that is no number does.
+        value = FixedValue(digits).value_or(0.0);
     }
     return negative ? -value : value;
 }

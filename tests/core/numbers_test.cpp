@@ -48,6 +48,28 @@ TEST(Numbers, NumericText) {
         EXPECT_EQ(LeadingValue(power), *power == '1' ? 100 : 0) << power;
 }
 
+// A typed number may run to hundreds of digits. One beyond any double is no
+// number, since 0 in its place would pass every range check; one below the
+// smallest double is 0; the leading value reads every digit.
+TEST(Numbers, ManyDigits) {
+    const std::string zeros(400, '0');
+    const std::string ones(70, '1');
+    // clang-format off
+    struct Case { const char* name; std::string text; std::optional<double> value; double leading; } cases[] = {
+        {"400 nines", std::string(400, '9'), {}, 0.0},
+        {"minus 1E400 and a half", "-1" + zeros + ".5", {}, 0.0},
+        {"1E-401", "0." + zeros + "1", 0.0, 0.0},
+        {"1E300", "1" + zeros.substr(0, 300), 1e300, 1e300},
+        {"70 ones", ones, std::stod(ones), std::stod(ones)},
+        {"1E300 leading a row", "1" + zeros.substr(0, 300) + " (115) est.", {}, 1e300},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        EXPECT_EQ(NumericValue(c.text), c.value) << c.name;
+        EXPECT_EQ(LeadingValue(c.text), c.leading) << c.name;
+    }
+}
+
 // Skill boxes of plain digits are read without the general reading; both
 // must give the same level for whatever a box may hold.
 TEST(Numbers, PlainDigitsReadAsTheGeneralReadingDoes) {

@@ -35,6 +35,9 @@ Text& Box(Calculator& c, Vessel v, NumberBox kind) {
     return s.TargetResistance;
 }
 
+// More digits than any double holds: no number, so the box is cleared.
+const std::string kBeyondAnyDouble(400, '9');
+
 TEST(NumberBoxes, TypedTextIsCorrectedInTheBox) {
     // clang-format off
     struct Case { NumberBox box; Vessel v; bool enabled; const char* typed; const char* shown; } cases[] = {
@@ -55,6 +58,8 @@ TEST(NumberBoxes, TypedTextIsCorrectedInTheBox) {
         {NumberBox::TargetDefense, 2, true, "-", "-"},          {NumberBox::TargetResistance, 1, true, "-", "-"},
         {NumberBox::TargetResistance, 1, true, "-5", "0"},      {NumberBox::TargetResistance, 1, true, "1000", "999"},
         {NumberBox::TargetResistance, 1, true, "998.9", "998.9"}, {NumberBox::TargetResistance, 1, true, "", ""},
+        {NumberBox::WeaponSkill, 1, true, kBeyondAnyDouble.c_str(), ""},
+        {NumberBox::TargetResistance, 1, true, kBeyondAnyDouble.c_str(), ""},
     };
     // clang-format on
     for (const Case& k : cases) {
