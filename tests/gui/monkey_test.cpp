@@ -7,12 +7,14 @@
 //   VANTOREL_MONKEY_SEED     the seed (a fixed one unless given)
 //   VANTOREL_MONKEY_SECONDS  how long the walk goes on (55 seconds unless given)
 //   VANTOREL_MONKEY_STEPS    exactly this many steps, however long they take
+//   VANTOREL_MONKEY_TRACE=1  every action on the error stream as it is taken
 // A failure, a crash among them, prints the seed, the step and the last
 // actions.
 
 #include "agreement.h"
 #include "mainwindow/view/mainwindow.h"
 #include "program/registry.h"
+#include "program/soak.h"
 #include "program/view/start.h"
 #include "program/view/windows.h"
 
@@ -48,6 +50,7 @@
 #include <optional>
 #include <random>
 #include <string>
+#include <type_traits>
 #include <unistd.h>
 #include <vector>
 
@@ -65,8 +68,9 @@ class Trail final {
   public:
     static constexpr int kKept = 20;
 
-    void begin(std::uint64_t seed) {
+    void begin(std::uint64_t seed, bool traced) {
         m_seed = seed;
+        m_traced = traced;
         m_steps = 0;
         m_lines = {};
     }
@@ -75,6 +79,7 @@ class Trail final {
         const QByteArray text = action.toUtf8();
         std::snprintf(m_lines[static_cast<std::size_t>(m_steps % kKept)].data(), kWidth, "  step %ld: %s\n", m_steps,
                       text.constData());
+        if (m_traced) Write(STDERR_FILENO, m_lines[static_cast<std::size_t>(m_steps % kKept)].data());
         std::snprintf(m_header.data(), m_header.size(),
                       "The monkey's walk from seed %llu failed at step %ld (replay with VANTOREL_MONKEY_SEED=%llu "
                       "VANTOREL_MONKEY_STEPS=%ld). The last actions:\n",
@@ -108,6 +113,7 @@ class Trail final {
     }
 
     std::uint64_t m_seed = 0;
+    bool m_traced = false;
     long m_steps = 0;
     std::array<std::array<char, kWidth>, kKept> m_lines{};
     std::array<char, 240> m_header{};
@@ -144,6 +150,28 @@ void Listen(QtMsgType type, const QMessageLogContext& context, const QString& me
     if (type == QtFatalMsg) g_trail.writeTo(STDERR_FILENO);
     if (g_qtHandler) g_qtHandler(type, context, message);
 }
+
+// Qt's messages and fatal signals reach the walk while this lasts.
+class Watch final {
+  public:
+    Watch() {
+        g_heard.clear();
+        g_qtHandler = qInstallMessageHandler(Listen);
+        struct sigaction on {};
+        on.sa_handler = OnFatalSignal;
+        on.sa_flags = SA_ONSTACK;
+        sigemptyset(&on.sa_mask);
+        for (std::size_t i = 0; i < kFatalSignals.size(); ++i)
+            sigaction(kFatalSignals[i], &on, &g_beforeSignals[i]);
+    }
+    ~Watch() {
+        for (std::size_t i = 0; i < kFatalSignals.size(); ++i)
+            sigaction(kFatalSignals[i], &g_beforeSignals[i], nullptr);
+        qInstallMessageHandler(g_qtHandler);
+    }
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+};
 
 // The name of the control a widget belongs to: a list's own line edit and
 // drop-down stand for their list, a box's bars for their box.
@@ -234,9 +262,18 @@ class Monkey final {
 
     // One action, written to the trail before it is taken.
     void step() {
+        const std::vector<std::string> quiet = quietValues();
         m_insideMenu.start();
         act();
         m_insideMenu.stop();
+        if (quietValues() != quiet) m_rules->awaitRecalculation();
+    }
+
+    // The rules of the program that a user works, as the random-action soak
+    // checks them; the first that does not hold, if any.
+    QString brokenRule() {
+        const std::optional<Finding> finding = m_rules->check();
+        return finding ? Q(std::string(InvariantName(finding->invariant)) + ": " + finding->detail) : QString();
     }
 
     // What differs between the windows and their fields, by name.
@@ -261,6 +298,8 @@ class Monkey final {
   private:
     std::unique_ptr<StartedProgram> m_program;
     std::unique_ptr<ControlRegistry> m_registry;
+    std::unique_ptr<Invariants> m_rules;
+    std::vector<const ControlRef*> m_quiet;
     std::vector<const ControlRef*> m_forms;
     std::mt19937_64 m_random;
     QMap<QString, long> m_byWindow;
@@ -290,15 +329,48 @@ class Monkey final {
     bool chance(int percent) { return below(100) < percent; }
 
     void start() {
+        m_rules.reset();
         m_registry.reset();
         m_program.reset();
         m_program = std::make_unique<StartedProgram>(Splash::Skipped);
         m_program->showMainWindow();
         m_registry = std::make_unique<ControlRegistry>(m_program->calculator());
         m_forms.clear();
-        for (const ControlRef& ref : m_registry->all())
+        m_quiet.clear();
+        for (const ControlRef& ref : m_registry->all()) {
             if (ref.form && ref.control == ref.form) m_forms.push_back(&ref);
+            const ValueKind kind = ref.kind();
+            const bool input = kind == ValueKind::Flag || kind == ValueKind::Text || kind == ValueKind::List ||
+                               kind == ValueKind::ScrollBar;
+            const bool typed = kind == ValueKind::List && std::get<List*>(ref.target)->typing();
+            if (input && (typed || !ref.control->hasHandler())) m_quiet.push_back(&ref);
+        }
+        m_rules = std::make_unique<Invariants>(m_program->calculator(), *m_registry);
         ++m_programs;
+    }
+
+    // What the controls hold whose changes raise no event: a text typed into
+    // a list that takes typing, a control without a handler. Such a change
+    // waits for the next recalculation to be taken in.
+    std::vector<std::string> quietValues() const {
+        std::vector<std::string> all;
+        all.reserve(m_quiet.size());
+        for (const ControlRef* ref : m_quiet) {
+            all.push_back(std::visit(
+                [](auto* target) -> std::string {
+                    using T = std::remove_pointer_t<decltype(target)>;
+                    if constexpr (std::is_same_v<T, Flag> || std::is_same_v<T, ScrollBar>)
+                        return std::to_string(target->value());
+                    else if constexpr (std::is_same_v<T, Text>)
+                        return target->text();
+                    else if constexpr (std::is_same_v<T, List>)
+                        return std::to_string(target->index()) + ' ' + target->text();
+                    else
+                        return std::string();
+                },
+                ref->target));
+        }
+        return all;
     }
 
     void note(const QString& action, const QWidget* on = nullptr) {
@@ -678,6 +750,7 @@ struct Budget {
     std::uint64_t seed = kSeed;
     double seconds = kSeconds;
     long steps = 0; // 0: as many as the seconds allow
+    bool traced = false;
 };
 
 Budget BudgetFromEnvironment() {
@@ -686,6 +759,7 @@ Budget BudgetFromEnvironment() {
     if (const qulonglong seed = qEnvironmentVariable("VANTOREL_MONKEY_SEED").toULongLong(&ok); ok) b.seed = seed;
     if (const double seconds = qEnvironmentVariable("VANTOREL_MONKEY_SECONDS").toDouble(&ok); ok) b.seconds = seconds;
     if (const long steps = qEnvironmentVariable("VANTOREL_MONKEY_STEPS").toLong(&ok); ok && steps > 0) b.steps = steps;
+    b.traced = qEnvironmentVariableIntValue("VANTOREL_MONKEY_TRACE") != 0;
     return b;
 }
 
@@ -711,26 +785,26 @@ class MonkeyTest final : public QObject {
 
     void walk() {
         const Budget budget = BudgetFromEnvironment();
-        g_trail.begin(budget.seed);
-        g_heard.clear();
-        g_qtHandler = qInstallMessageHandler(Listen);
-        struct sigaction on {};
-        on.sa_handler = OnFatalSignal;
-        on.sa_flags = SA_ONSTACK;
-        sigemptyset(&on.sa_mask);
-        for (std::size_t i = 0; i < kFatalSignals.size(); ++i)
-            sigaction(kFatalSignals[i], &on, &g_beforeSignals[i]);
-
+        g_trail.begin(budget.seed, budget.traced);
+        const Watch watch;
         QElapsedTimer clock;
         clock.start();
         {
             Monkey monkey(budget.seed);
             const qint64 until = static_cast<qint64>(budget.seconds * 1000);
             while (budget.steps > 0 ? g_trail.steps() < budget.steps : clock.elapsed() < until) {
-                monkey.step();
+                QStringList wrong;
+                try {
+                    monkey.step();
+                } catch (...) {
+                    // The rules' count of nested events throws when a chain
+                    // runs too deep.
+                    wrong << QStringLiteral("an event threw, or events nested more than %1 deep")
+                                 .arg(Invariants::kMaxNesting);
+                }
                 QApplication::processEvents();
-                QStringList wrong = g_heard;
-                wrong << monkey.disagreements();
+                wrong << g_heard << monkey.disagreements();
+                if (const QString rule = monkey.brokenRule(); !rule.isEmpty()) wrong << rule;
                 if (!wrong.isEmpty()) {
                     const QString report =
                         g_trail.text() + QStringLiteral("Found:\n  ") + wrong.join(QStringLiteral("\n  "));
@@ -745,9 +819,6 @@ class MonkeyTest final : public QObject {
                   static_cast<unsigned long long>(budget.seed), monkey.programs(),
                   qPrintable(byWindow.join(QStringLiteral(", "))));
         }
-        for (std::size_t i = 0; i < kFatalSignals.size(); ++i)
-            sigaction(kFatalSignals[i], &g_beforeSignals[i], nullptr);
-        qInstallMessageHandler(g_qtHandler);
     }
 };
 
