@@ -31,7 +31,9 @@ cmake --build build-sanitize -j "$jobs"
 # core and script tests only.
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
   ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -E '^gui_'
-ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 \
+# The monkey walks for half a minute here, where each step takes about three
+# times as long: the same seed, the first few thousand steps.
+ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 VANTOREL_MONKEY_SECONDS=30 \
   ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -R '^gui_'
 
 echo "== Fuzzing"

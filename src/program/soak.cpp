@@ -555,7 +555,13 @@ std::optional<Finding> Invariants::perform(const Action& action) {
     return std::nullopt;
 }
 
+void Invariants::awaitRecalculation() {
+    m_awaiting = true;
+    m_c.results.showArcs = &ShowArcsOnce;
+}
+
 std::optional<Finding> Invariants::check() {
+    if (m_awaiting && m_c.results.showArcs == &ShowArcBoxes) m_awaiting = false;
     try {
         for (auto rule : {&Invariants::listIndexes, &Invariants::dpsCaptions, &Invariants::comparing,
                           &Invariants::numberBoxes, &Invariants::shades, &Invariants::omegaReadOnly})

@@ -80,6 +80,10 @@ class Invariants final {
     // The first rule that does not hold now, if any. A recalculation is part
     // of the check; when the rules hold it changes nothing.
     std::optional<Finding> check();
+    // A change that raised no event, made other than by perform() (by the
+    // widgets of a window, say): the results wait for the next
+    // recalculation, as after a typed text.
+    void awaitRecalculation();
 
     // Text typed into a list with typing raises no event, nor does a click
     // on a control without a handler, so what the windows show waits for the

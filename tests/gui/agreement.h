@@ -6,6 +6,7 @@
 
 #include "gui/binding.h"
 #include "gui/twips.h"
+#include "mainwindow/layout.h"
 #include "program/registry.h"
 
 #include <QAbstractItemView>
@@ -74,7 +75,9 @@ inline QStringList Disagreements(const QWidget& window, const ControlRegistry& r
         }
         const Control& f = *ref.control;
         if (w->isHidden() == f.visible()) wrong << n + ": visible";
-        if (w->isEnabled() != f.enabled()) wrong << n + ": enabled";
+        // A window that the warning holds is disabled with all its widgets;
+        // each widget still shows whether its own field is enabled.
+        if (w->isEnabledTo(&window) != f.enabled()) wrong << n + ": enabled";
         if (w->geometry() != twips.rect(f)) wrong << n + ": place";
         switch (kind) {
         case ValueKind::Label: {
@@ -140,13 +143,20 @@ inline QStringList Disagreements(const QWidget& window, const ControlRegistry& r
 }
 
 // Whether a window on the screen is the one its field describes: shown or
-// hidden, enabled, titled.
+// hidden, enabled, titled, and while it shows in its normal state, at the
+// field's place with the inner size that the field's outer size gives.
 inline QStringList WindowDisagreements(const QWidget& window, const Window& field, const std::string& name) {
     QStringList wrong;
     const QString n = Q(name);
     if (window.isVisible() != field.visible()) wrong << n + ": shown";
     if (window.isEnabled() != field.enabled()) wrong << n + ": enabled";
     if (window.windowTitle() != Q(field.title())) wrong << n + ": title";
+    if (!window.isVisible() || window.windowState() != Qt::WindowNoState) return wrong;
+    const gui::Twips twips = gui::Twips::forScreen(window.screen());
+    if (window.pos() != QPoint(twips.toPixelsX(field.left()), twips.toPixelsY(field.top()))) wrong << n + ": place";
+    const int width = field.innerWidth() > 0 ? field.innerWidth() : field.width() - kFrameWidth;
+    const int height = field.innerHeight() > 0 ? field.innerHeight() : field.height() - kFrameHeight;
+    if (window.size() != QSize(twips.toPixelsX(width), twips.toPixelsY(height))) wrong << n + ": size";
     return wrong;
 }
 
