@@ -581,7 +581,7 @@ class Monkey final {
         case 7:
             return from(kForeign + kDigits, 1 + below(6));
         default: // far longer than any box
-            return from(chance(50) ? kDigits : kAny, 200 + below(300));
+            return from(chance(50) ? kDigits : kAny, 120 + below(180));
         }
     }
 
