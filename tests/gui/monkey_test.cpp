@@ -840,6 +840,14 @@ int main(int argc, char* argv[]) {
     // that opened it, depend on the time between events, which differs from
     // run to run; without them a seed replays step by step.
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
+    // Qt Test ends a test function that runs five minutes, which a walk
+    // asked to take longer would; a walk that hangs still ends five minutes
+    // after its time.
+    if (!qEnvironmentVariableIsSet("QTEST_FUNCTION_TIMEOUT")) {
+        const Budget budget = BudgetFromEnvironment();
+        const qint64 seconds = budget.steps > 0 ? 24 * 3600 : static_cast<qint64>(budget.seconds) + 300;
+        qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(seconds * 1000));
+    }
     MonkeyTest test;
     const int failed = QTest::qExec(&test, argc, argv);
     std::filesystem::remove(screen);
