@@ -11,6 +11,7 @@
 #include "mainwindow/layout.h"
 #include "mainwindow/view/mainwindow.h"
 #include "program/view/start.h"
+#include "screen.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
@@ -369,11 +370,7 @@ class SplashTest final : public QObject {
 };
 
 int main(int argc, char* argv[]) {
-    const std::filesystem::path screen = std::filesystem::temp_directory_path() / "vantorel-help-test-screen.json";
-    std::ofstream(screen) << R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [)"
-                          << R"({"name": "Screen", "x": 0, "y": 0, "width": 1920, "height": 1080,)"
-                          << R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
-    qputenv("QT_QPA_PLATFORM", QByteArray("offscreen:configfile=") + QByteArray::fromStdString(screen.string()));
+    const test::VirtualScreen screen("Screen", 1920, 1080);
     QApplication app(argc, argv);
     HelpTest help;
     SplashTest splash;

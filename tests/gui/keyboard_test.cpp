@@ -9,6 +9,7 @@
 #include "program/program.h"
 #include "program/registry.h"
 #include "program/view/windows.h"
+#include "screen.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -543,11 +544,7 @@ class KeyboardTest final : public QObject {
 };
 
 int main(int argc, char* argv[]) {
-    const std::filesystem::path screen = std::filesystem::temp_directory_path() / "vantorel-keyboard-test-screen.json";
-    std::ofstream(screen) << R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [)"
-                          << R"({"name": "Laptop", "x": 0, "y": 0, "width": 1366, "height": 768,)"
-                          << R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
-    qputenv("QT_QPA_PLATFORM", QByteArray("offscreen:configfile=") + QByteArray::fromStdString(screen.string()));
+    const test::VirtualScreen screen("Laptop", 1366, 768);
     QApplication app(argc, argv);
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
     KeyboardTest test;

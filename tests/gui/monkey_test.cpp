@@ -17,6 +17,7 @@
 #include "program/soak.h"
 #include "program/view/start.h"
 #include "program/view/windows.h"
+#include "screen.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -823,14 +824,7 @@ class MonkeyTest final : public QObject {
 };
 
 int main(int argc, char* argv[]) {
-    // A file of its own for each run, so that runs side by side (one of each
-    // build, or of other seeds) do not write into each other's.
-    const std::filesystem::path screen = std::filesystem::temp_directory_path() /
-                                         ("vantorel-monkey-test-screen-" + std::to_string(::getpid()) + ".json");
-    std::ofstream(screen) << R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [)"
-                          << R"({"name": "Laptop", "x": 0, "y": 0, "width": 1366, "height": 768,)"
-                          << R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
-    qputenv("QT_QPA_PLATFORM", QByteArray("offscreen:configfile=") + QByteArray::fromStdString(screen.string()));
+    const test::VirtualScreen screen("Laptop", 1366, 768);
     QApplication app(argc, argv);
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
     // The walk ends the program by closing its main window and starts it
@@ -849,9 +843,7 @@ int main(int argc, char* argv[]) {
         qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(seconds * 1000));
     }
     MonkeyTest test;
-    const int failed = QTest::qExec(&test, argc, argv);
-    std::filesystem::remove(screen);
-    return failed;
+    return QTest::qExec(&test, argc, argv);
 }
 
 #include "monkey_test.moc"

@@ -6,6 +6,7 @@
 
 #include "mainwindow/view/mainwindow.h"
 #include "program/view/start.h"
+#include "screen.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -257,11 +258,7 @@ class PicturesTest final : public QObject {
 };
 
 int main(int argc, char* argv[]) {
-    const std::filesystem::path screen = std::filesystem::temp_directory_path() / "vantorel-pictures-test-screen.json";
-    std::ofstream(screen) << R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [)"
-                          << R"({"name": "Screen", "x": 0, "y": 0, "width": 1920, "height": 1080,)"
-                          << R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
-    qputenv("QT_QPA_PLATFORM", QByteArray("offscreen:configfile=") + QByteArray::fromStdString(screen.string()));
+    const test::VirtualScreen screen("Screen", 1920, 1080);
     QApplication app(argc, argv);
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
     PicturesTest test;

@@ -10,6 +10,7 @@
 #include "program/program.h"
 #include "program/registry.h"
 #include "program/view/windows.h"
+#include "screen.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -188,11 +189,7 @@ class SettingsWindowTest final : public QObject {
 };
 
 int main(int argc, char* argv[]) {
-    const std::filesystem::path screen = std::filesystem::temp_directory_path() / "vantorel-settings-test-screen.json";
-    std::ofstream(screen) << R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [)"
-                          << R"({"name": "Laptop", "x": 0, "y": 0, "width": 1366, "height": 768,)"
-                          << R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
-    qputenv("QT_QPA_PLATFORM", QByteArray("offscreen:configfile=") + QByteArray::fromStdString(screen.string()));
+    const test::VirtualScreen screen("Laptop", 1366, 768);
     QApplication app(argc, argv);
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
     SettingsWindowTest test;

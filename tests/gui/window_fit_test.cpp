@@ -7,6 +7,7 @@
 #include "mainwindow/layout.h"
 #include "mainwindow/view/mainwindow.h"
 #include "program/program.h"
+#include "screen.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -157,11 +158,7 @@ class WindowFitTest final : public QObject {
 };
 
 int main(int argc, char* argv[]) {
-    const std::filesystem::path screen = std::filesystem::temp_directory_path() / "vantorel-fit-test-screen.json";
-    std::ofstream(screen) << R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [)"
-                          << R"({"name": "Small", "x": 0, "y": 0, "width": 800, "height": 600,)"
-                          << R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
-    qputenv("QT_QPA_PLATFORM", QByteArray("offscreen:configfile=") + QByteArray::fromStdString(screen.string()));
+    const test::VirtualScreen screen("Small", 800, 600);
     QApplication app(argc, argv);
     WindowFitTest test;
     return QTest::qExec(&test, argc, argv);
