@@ -547,21 +547,15 @@ std::optional<Finding> Invariants::perform(const Action& action) {
     } catch (const NestedTooDeep& e) {
         return Finding{Invariant::Nesting, "more than " + std::to_string(kMaxNesting) + " events: " + e.chain};
     } catch (const std::exception& e) { return Finding{Invariant::Failure, ScriptLine(action) + ": " + e.what()}; }
-    if (m_awaiting && m_c.results.showArcs == &ShowArcBoxes) m_awaiting = false;
-    if (silent) {
-        m_awaiting = true;
-        m_c.results.showArcs = &ShowArcsOnce;
-    }
+    if (silent) awaitRecalculation();
     return std::nullopt;
 }
 
-void Invariants::awaitRecalculation() {
-    m_awaiting = true;
-    m_c.results.showArcs = &ShowArcsOnce;
-}
+void Invariants::awaitRecalculation() { m_c.results.showArcs = &ShowArcsOnce; }
+
+bool Invariants::awaitingRecalculation() const { return m_c.results.showArcs == &ShowArcsOnce; }
 
 std::optional<Finding> Invariants::check() {
-    if (m_awaiting && m_c.results.showArcs == &ShowArcBoxes) m_awaiting = false;
     try {
         for (auto rule : {&Invariants::listIndexes, &Invariants::dpsCaptions, &Invariants::comparing,
                           &Invariants::numberBoxes, &Invariants::shades, &Invariants::omegaReadOnly})
@@ -569,7 +563,7 @@ std::optional<Finding> Invariants::check() {
         if (auto finding = omegaSettings()) return finding;
         if (auto finding = omegaSkills()) return finding;
         if (auto finding = noteHolds()) return finding;
-        if (m_awaiting) return std::nullopt;
+        if (awaitingRecalculation()) return std::nullopt;
         if (auto finding = recalculation()) return finding;
         return arcDPS();
     } catch (const NestedTooDeep& e) {

@@ -89,7 +89,7 @@ class Invariants final {
     // on a control without a handler, so what the windows show waits for the
     // next recalculation to take it in. Until then the results are not
     // compared with a fresh recalculation.
-    bool awaitingRecalculation() const { return m_awaiting; }
+    bool awaitingRecalculation() const;
     int deepestNesting() const { return m_deepest; }
 
   private:
@@ -142,7 +142,6 @@ class Invariants final {
     std::vector<std::pair<Control*, std::function<void()>>> m_handlers;
     int m_depth = 0;
     int m_deepest = 0;
-    bool m_awaiting = false;
     Snapshot m_snapshot;
 };
 
