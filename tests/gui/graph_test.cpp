@@ -19,8 +19,6 @@
 #include <QPushButton>
 #include <QTest>
 
-#include <filesystem>
-#include <fstream>
 #include <memory>
 
 using namespace vantorel;

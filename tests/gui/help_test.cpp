@@ -30,8 +30,6 @@
 #include <QTextList>
 #include <QUrl>
 
-#include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <tuple>

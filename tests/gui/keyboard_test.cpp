@@ -23,8 +23,6 @@
 #include <QTextEdit>
 #include <QUrl>
 
-#include <filesystem>
-#include <fstream>
 #include <memory>
 #include <type_traits>
 

@@ -22,8 +22,6 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include <filesystem>
-#include <fstream>
 #include <memory>
 
 using namespace vantorel;

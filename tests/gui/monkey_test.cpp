@@ -45,14 +45,11 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <memory>
 #include <optional>
 #include <random>
 #include <string>
 #include <type_traits>
-#include <unistd.h>
 #include <vector>
 
 using namespace vantorel;

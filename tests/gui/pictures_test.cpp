@@ -25,8 +25,6 @@
 
 #include <sys/stat.h>
 
-#include <filesystem>
-#include <fstream>
 #include <functional>
 
 using namespace vantorel;

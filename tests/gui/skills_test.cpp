@@ -24,8 +24,6 @@
 #include <QScreen>
 #include <QTest>
 
-#include <filesystem>
-#include <fstream>
 #include <memory>
 
 using namespace vantorel;
